@@ -1,0 +1,44 @@
+// The host's navigation modes. Switching one tells the vessel through
+// clbkNavMode; the flight model holds the attitude while a mode is on.
+#include "VesselAPI.h"
+#include "core/vessel.h"
+#include "core/world.h"
+
+namespace {
+
+bool Valid(int mode) { return mode >= NAVMODE_KILLROT && mode <= NAVMODE_HOLDALT; }
+
+// Modes that point the vessel exclude each other.
+bool Exclusive(int mode) { return mode != NAVMODE_HOLDALT; }
+
+} // namespace
+
+bool VESSEL::ActivateNavmode(int mode) {
+    if (!Valid(mode) || vessel->navmodes.test(static_cast<size_t>(mode)))
+        return false;
+    if (Exclusive(mode))
+        for (int other = NAVMODE_KILLROT; other <= NAVMODE_ANTINORMAL; ++other)
+            if (vessel->navmodes.test(static_cast<size_t>(other)))
+                DeactivateNavmode(other);
+    vessel->navmodes.set(static_cast<size_t>(mode));
+    hullhost::CallbackScope scope(hullhost::World::Current());
+    static_cast<VESSEL2 *>(this)->clbkNavMode(mode, true);
+    return true;
+}
+
+bool VESSEL::DeactivateNavmode(int mode) {
+    if (!Valid(mode) || !vessel->navmodes.test(static_cast<size_t>(mode)))
+        return false;
+    vessel->navmodes.reset(static_cast<size_t>(mode));
+    hullhost::CallbackScope scope(hullhost::World::Current());
+    static_cast<VESSEL2 *>(this)->clbkNavMode(mode, false);
+    return true;
+}
+
+bool VESSEL::ToggleNavmode(int mode) {
+    return GetNavmodeState(mode) ? DeactivateNavmode(mode) : ActivateNavmode(mode);
+}
+
+bool VESSEL::GetNavmodeState(int mode) {
+    return Valid(mode) && vessel->navmodes.test(static_cast<size_t>(mode));
+}

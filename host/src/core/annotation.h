@@ -1,0 +1,19 @@
+// An on-screen text of the host, made by oapiCreateAnnotation.
+#pragma once
+
+#include <string>
+
+#include "OrbiterAPI.h"
+
+namespace hullhost {
+
+struct Annotation {
+    bool exclusive = false;
+    double size = 1.0;
+    VECTOR3 colour{1, 1, 1};
+    double x1 = 0, y1 = 0, x2 = 1, y2 = 1;
+    std::string text;
+    NOTEHANDLE Handle() { return reinterpret_cast<NOTEHANDLE>(this); }
+};
+
+} // namespace hullhost

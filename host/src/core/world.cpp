@@ -1,0 +1,243 @@
+#include "world.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+#include "line_file.h"
+#include "physics/flight_model.h"
+
+namespace hullhost {
+
+namespace {
+World *current = nullptr;
+}
+
+World::World(std::string root) : modules(root), root_(std::move(root)) {
+    if (current)
+        throw std::logic_error("a world is already current");
+    current = this;
+    physics::InitSolarSystem(*this);
+}
+
+World::~World() {
+    // Modules end their vessels before the libraries go.
+    while (!vessels_.empty())
+        DeleteNow(*vessels_.back());
+    current = nullptr;
+}
+
+World &World::Current() {
+    if (!current)
+        throw std::logic_error("no world is current");
+    return *current;
+}
+
+World *World::CurrentOrNull() { return current; }
+
+std::string World::LocalPath(const std::string &hostPath) const {
+    std::string local = hostPath;
+    std::replace(local.begin(), local.end(), '\\', '/');
+    if (!local.empty() && local.front() == '/')
+        return local;
+    return root_ + "/" + local;
+}
+
+Body *World::FindBody(const std::string &name) const {
+    for (auto &b : bodies)
+        if (b->Name() == name)
+            return b.get();
+    return nullptr;
+}
+
+Vessel *World::FindVessel(const std::string &name) const {
+    for (auto &v : vessels_)
+        if (v->Name() == name)
+            return v.get();
+    return nullptr;
+}
+
+Object *World::FindObject(const std::string &name) const {
+    if (Vessel *v = FindVessel(name))
+        return v;
+    return FindBody(name);
+}
+
+bool World::IsVessel(OBJHANDLE h) const {
+    if (!h)
+        return false;
+    auto *o = reinterpret_cast<Object *>(h);
+    return std::any_of(vessels_.begin(), vessels_.end(), [o](auto &v) { return v.get() == o; });
+}
+
+bool World::IsObject(OBJHANDLE h) const {
+    if (!h)
+        return false;
+    auto *o = reinterpret_cast<Object *>(h);
+    return IsVessel(h) || std::any_of(bodies.begin(), bodies.end(), [o](auto &b) { return b.get() == o; });
+}
+
+Vessel &World::ConstructVessel(const std::string &name, const std::string &className) {
+    const Module &module = modules.ForClass(className);
+    vessels_.push_back(std::make_unique<Vessel>(name, className, &module));
+    Vessel &v = *vessels_.back();
+    v.ref = Earth();
+    {
+        CallbackScope scope(*this);
+        v.iface = module.Init(v.Handle(), 1);
+    }
+    if (!v.iface || v.iface->Version() < 1) {
+        v.iface = nullptr;
+        DeleteNow(v);
+        throw std::runtime_error("the module of class " + className + " made no vessel");
+    }
+    if (seed)
+        std::srand(*seed);
+    LineFile classFile = LineFile::ReadLocal(modules.ClassFile(className));
+    CallbackScope scope(*this);
+    static_cast<VESSEL2 *>(v.iface)->clbkSetClassCaps(classFile.Handle());
+    return v;
+}
+
+namespace {
+VESSELSTATUS2 DefaultStatus(Body *earth) {
+    VESSELSTATUS2 st{};
+    st.version = 2;
+    st.rbody = earth ? earth->Handle() : nullptr;
+    return st;
+}
+} // namespace
+
+void World::LoadVesselState(Vessel &v, const std::vector<std::string> &lines) {
+    LineFile reader(lines);
+    VESSELSTATUS2 status = DefaultStatus(Earth());
+    {
+        CallbackScope scope(*this);
+        static_cast<VESSEL2 *>(v.iface)->clbkLoadStateEx(reader.Handle(), &status);
+    }
+    physics::SetStatus2(*this, v, status);
+}
+
+Vessel &World::CreateVessel(const std::string &name, const std::string &className,
+                            const VESSELSTATUS2 &state) {
+    Vessel &v = ConstructVessel(name, className);
+    physics::SetStatus2(*this, v, state);
+    PostCreate(v);
+    return v;
+}
+
+Vessel &World::AddBareVessel(const std::string &name) {
+    vessels_.push_back(std::make_unique<Vessel>(name, "", nullptr));
+    Vessel &v = *vessels_.back();
+    v.ref = Earth();
+    return v;
+}
+
+void World::PostCreate(Vessel &v) {
+    CallbackScope scope(*this);
+    static_cast<VESSEL2 *>(v.iface)->clbkPostCreation();
+}
+
+void World::RequestDelete(Vessel &v) {
+    if (std::find(pendingDelete_.begin(), pendingDelete_.end(), &v) == pendingDelete_.end())
+        pendingDelete_.push_back(&v);
+    if (callbackDepth_ == 0)
+        FlushDeletions();
+}
+
+void World::SetFocus(Vessel *v) {
+    if (v == focus || (v && !v->focusEnabled))
+        return;
+    Vessel *old = focus;
+    focus = v;
+    CallbackScope scope(*this);
+    if (old && old->iface)
+        static_cast<VESSEL2 *>(old->iface)->clbkFocusChanged(false, v ? v->Handle() : nullptr, old->Handle());
+    if (v && v->iface)
+        static_cast<VESSEL2 *>(v->iface)->clbkFocusChanged(true, v->Handle(), old ? old->Handle() : nullptr);
+}
+
+void World::Frame(double realDt) {
+    sysdt = realDt;
+    syst += realDt;
+    simdt = realDt * accel;
+    simt += simdt;
+    {
+        CallbackScope scope(*this);
+        if (focus && focus->iface) {
+            auto *v2 = static_cast<VESSEL2 *>(focus->iface);
+            while (!bufferedKeys.empty()) {
+                KeyEvent e = bufferedKeys.front();
+                bufferedKeys.pop_front();
+                v2->clbkConsumeBufferedKey(e.key, e.down, keyState);
+            }
+            v2->clbkConsumeDirectKey(keyState);
+        }
+        // Vessels created during the walk take their first step next frame.
+        const size_t count = vessels_.size();
+        for (size_t i = 0; i < count && i < vessels_.size(); ++i)
+            if (vessels_[i]->iface)
+                static_cast<VESSEL2 *>(vessels_[i]->iface)->clbkPreStep(simt, simdt, Mjd());
+    }
+    FlushDeletions();
+    physics::Advance(*this, simdt);
+    {
+        CallbackScope scope(*this);
+        const size_t count = vessels_.size();
+        for (size_t i = 0; i < count && i < vessels_.size(); ++i)
+            if (vessels_[i]->iface)
+                static_cast<VESSEL2 *>(vessels_[i]->iface)->clbkPostStep(simt, simdt, Mjd());
+    }
+    FlushDeletions();
+}
+
+void World::WriteLog(const std::string &line) {
+    log.push_back(line);
+    if (!logPath.empty()) {
+        std::ofstream out(logPath, std::ios::app);
+        out << line << '\n';
+    }
+}
+
+void World::FlushDeletions() {
+    while (!pendingDelete_.empty()) {
+        Vessel *v = pendingDelete_.front();
+        pendingDelete_.erase(pendingDelete_.begin());
+        DeleteNow(*v);
+    }
+}
+
+void World::DeleteNow(Vessel &v) {
+    // Loose every attachment that joins the vessel to another.
+    for (auto &other : vessels_) {
+        for (auto &a : other->attachments) {
+            if (a->attached == &v) {
+                a->attached = nullptr;
+                a->counterpart = nullptr;
+            }
+        }
+        if (other->parent == &v)
+            other->parent = nullptr;
+    }
+    if (focus == &v) {
+        focus = nullptr;
+        for (auto &other : vessels_)
+            if (other.get() != &v && other->focusEnabled) {
+                focus = other.get();
+                break;
+            }
+    }
+    if (v.iface) {
+        CallbackScope scope(*this);
+        v.GetModule()->Exit(v.iface);
+        v.iface = nullptr;
+    }
+    auto it = std::find_if(vessels_.begin(), vessels_.end(), [&v](auto &p) { return p.get() == &v; });
+    if (it != vessels_.end())
+        vessels_.erase(it);
+}
+
+CallbackScope::~CallbackScope() { --world_.callbackDepth_; }
+
+} // namespace hullhost

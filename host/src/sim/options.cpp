@@ -1,0 +1,129 @@
+#include "options.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "frame_clock.h"
+#include "usage_error.h"
+
+namespace hullhost::sim {
+
+namespace {
+
+// The numbers of the command line as written, checked after parsing so that
+// every bad value gets the same kind of message.
+struct NumberTexts {
+    std::string seconds, dt, accel, seed;
+};
+
+double ParseNumber(const std::string &option, const std::string &text, bool allowZero) {
+    double d = 0.0;
+    auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), d);
+    bool ok = !text.empty() && ec == std::errc() && end == text.data() + text.size() && std::isfinite(d);
+    if (!ok || d < 0 || (!allowZero && d == 0))
+        throw UsageError(option + " needs a number " + (allowZero ? "of 0 or more" : "above 0") + ", not '" +
+                         text + "'");
+    return d;
+}
+
+unsigned ParseSeed(const std::string &text) {
+    unsigned n = 0;
+    auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), n);
+    if (text.empty() || ec != std::errc() || end != text.data() + text.size())
+        throw UsageError("--seed needs a whole number from 0 to " +
+                         std::to_string(std::numeric_limits<unsigned>::max()) + ", not '" + text + "'");
+    return n;
+}
+
+void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
+    run.add_option("SCENARIO", o.scenario,
+                   "Scenario file: a path, else a name under ROOT/Scenarios/ (\".scn\" may be left out)")
+        ->required()
+        ->type_name("");
+    run.add_option("--root", o.root, "The host's working directory (Config/, Meshes/, Modules/, Scenarios/)")
+        ->type_name("DIR")
+        ->default_str(o.root);
+    run.add_option("--for", n.seconds, "Simulation time to run [s]; 0 loads and post-creates only")
+        ->type_name("SECONDS")
+        ->default_str("0");
+    run.add_option("--dt", n.dt, "Frame length [real s]")->type_name("SECONDS")->default_str("0.02");
+    run.add_option("--accel", n.accel, "Time acceleration at the start")->type_name("A")->default_str("1");
+    run.add_option("--seed", n.seed, "srand(N) right after each vessel's constructor, for repeatable runs")
+        ->type_name("N");
+    run.add_option("--save", o.savePath, "Write the scenario at the end to FILE")->type_name("FILE");
+    run.add_option("--state", o.statePath, "Write the host-side state at the end to FILE as JSON")
+        ->type_name("FILE");
+    run.add_option("--keys", o.keysPath, "Key script for the focus vessel: lines \"TIME KEY [SECONDS]\"")
+        ->type_name("FILE");
+    run.add_option("--log", o.logPath, "Write the host's log to FILE (default: no log file)")
+        ->type_name("FILE");
+}
+
+void CheckNumbers(const NumberTexts &n, RunOptions &o) {
+    if (!n.seconds.empty())
+        o.seconds = ParseNumber("--for", n.seconds, true);
+    if (!n.dt.empty())
+        o.dt = ParseNumber("--dt", n.dt, false);
+    if (!n.accel.empty())
+        o.accel = ParseNumber("--accel", n.accel, false);
+    if (!n.seed.empty())
+        o.seed = ParseSeed(n.seed);
+    if (FrameCount(o.seconds, o.dt * o.accel) > kMaxFrames)
+        throw UsageError("--for " + n.seconds + " takes more than " +
+                         std::to_string(static_cast<long>(kMaxFrames)) + " frames; raise --dt or --accel");
+}
+
+// CLI11's message as one line.
+std::string OneLine(std::string message) {
+    for (char &c : message)
+        if (c == '\n')
+            c = ' ';
+    while (!message.empty() && message.back() == ' ')
+        message.pop_back();
+    return message;
+}
+
+} // namespace
+
+Command ParseCommandLine(const std::vector<std::string> &args, const std::string &defaultRoot) {
+    Command cmd;
+    cmd.run.root = defaultRoot;
+    NumberTexts numbers;
+
+    CLI::App app("hullsim: the headless host that loads vessel modules and runs scenarios", "hullsim");
+    app.require_subcommand(1);
+    CLI::App *run = app.add_subcommand("run", "Load a scenario, run it, and write what became of it");
+    AddRunOptions(*run, cmd.run, numbers);
+    run->footer("Key script: one line each \"TIME KEY [SECONDS]\", such as \"2.5 Ctrl+M\" (one press) or\n"
+                "\"10 KP_PLUS 3\" (held 3 s); ';' starts a comment.\n"
+                "Exit codes: 0 done, 1 run error (missing file, unknown class, module failure),\n"
+                "2 usage error (bad option, bad key script).");
+
+    if (!args.empty() && args[0] != "run" && !args[0].starts_with("-"))
+        throw UsageError("unknown command '" + args[0] +
+                         "'; usage: hullsim run SCENARIO [options] (see hullsim --help)");
+
+    // CLI11 takes the arguments last first.
+    std::vector<std::string> reversed(args.rbegin(), args.rend());
+    try {
+        app.parse(reversed);
+    } catch (const CLI::CallForHelp &) {
+        // One text for "hullsim --help" and "hullsim run --help": the run
+        // command is all there is.
+        cmd.help = true;
+        cmd.helpText = app.get_description() + "\n\n" + run->help("hullsim");
+        return cmd;
+    } catch (const CLI::RequiredError &e) {
+        if (args.empty() || !run->parsed())
+            throw UsageError("no command given; usage: hullsim run SCENARIO [options] (see hullsim --help)");
+        throw UsageError(OneLine(e.what()));
+    } catch (const CLI::ParseError &e) {
+        throw UsageError(OneLine(e.what()));
+    }
+    CheckNumbers(numbers, cmd.run);
+    return cmd;
+}
+
+} // namespace hullhost::sim

@@ -1,0 +1,36 @@
+// The command line of hullsim.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace hullhost::sim {
+
+struct RunOptions {
+    std::string scenario;
+    std::string root;     // the host's working directory
+    double seconds = 0.0; // simulation time to run; 0: load and post-create only
+    double dt = 0.02;     // frame length [real s]
+    double accel = 1.0;   // time acceleration at the start
+    std::optional<unsigned> seed;
+    std::string savePath;  // empty: none
+    std::string statePath; // empty: none
+    std::string keysPath;  // empty: none
+    std::string logPath;   // empty: no log file
+};
+
+// The most frames that one run may take, so that no option makes it endless.
+constexpr double kMaxFrames = 1e8;
+
+struct Command {
+    bool help = false; // print helpText and end
+    std::string helpText;
+    RunOptions run;
+};
+
+// Reads the command line. `defaultRoot` is the root when --root is absent.
+// Throws UsageError with a one-line message for a bad command line.
+Command ParseCommandLine(const std::vector<std::string> &args, const std::string &defaultRoot);
+
+} // namespace hullhost::sim

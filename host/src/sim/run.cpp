@@ -1,0 +1,130 @@
+#include "run.h"
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <stdexcept>
+
+#include "frame_clock.h"
+#include "key_player.h"
+#include "progress.h"
+#include "scenario/atomic_write.h"
+#include "scenario/scenario_world.h"
+#include "state_json.h"
+
+namespace hullhost::sim {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool IsFile(const fs::path &p) {
+    std::error_code ec;
+    return fs::is_regular_file(p, ec);
+}
+
+// An output path made absolute before the working directory changes; its
+// folder must exist, so that a long run doesn't fail only at its end.
+std::string OutputPath(const std::string &path, const char *option) {
+    if (path.empty())
+        return {};
+    fs::path abs = fs::absolute(path);
+    std::error_code ec;
+    if (!fs::is_directory(abs.parent_path(), ec))
+        throw std::runtime_error(std::string(option) + " " + path + ": folder " + abs.parent_path().string() +
+                                 " does not exist");
+    if (fs::is_directory(abs, ec))
+        throw std::runtime_error(std::string(option) + " " + path + " is a folder");
+    return abs.string();
+}
+
+// Makes `dir` the working directory until the end of the scope.
+class WorkingDirectory {
+  public:
+    explicit WorkingDirectory(const fs::path &dir) : old_(fs::current_path()) { fs::current_path(dir); }
+    ~WorkingDirectory() {
+        std::error_code ec;
+        fs::current_path(old_, ec);
+    }
+    WorkingDirectory(const WorkingDirectory &) = delete;
+    WorkingDirectory &operator=(const WorkingDirectory &) = delete;
+
+  private:
+    fs::path old_;
+};
+
+// Runs the frames of a world for `seconds` of simulation time.
+void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys) {
+    KeyPlayer player(std::move(keys));
+    Progress progress(stderr, options.seconds);
+    double frames = 0;
+    while (NeedsFrame(world.simt, options.seconds, options.dt * world.accel)) {
+        double step = options.dt * world.accel;
+        if (!(step > 0) || !std::isfinite(step))
+            throw std::runtime_error("the time acceleration became " + std::to_string(world.accel));
+        if (++frames > kMaxFrames)
+            throw std::runtime_error("the run took more than " +
+                                     std::to_string(static_cast<long>(kMaxFrames)) +
+                                     " frames; the time acceleration fell to " + std::to_string(world.accel));
+        player.BeforeFrame(world.simt + step, step, world.keyState, world.bufferedKeys);
+        world.Frame(options.dt);
+        double next = options.dt * world.accel;
+        player.AfterFrame(world.simt + next, next, world.keyState, world.bufferedKeys);
+        progress.Update(world.simt);
+    }
+}
+
+} // namespace
+
+std::string FindScenario(const std::string &name, const std::string &root) {
+    if (name.empty())
+        throw std::runtime_error("no scenario named");
+    fs::path scenarios = fs::path(root) / "Scenarios";
+    for (const fs::path &candidate : {fs::path(name), scenarios / name, scenarios / (name + ".scn")})
+        if (IsFile(candidate))
+            return fs::absolute(candidate).string();
+    throw std::runtime_error("scenario '" + name + "' not found (looked for " + name + ", " +
+                             (scenarios / name).string() + " and " + (scenarios / (name + ".scn")).string() +
+                             ")");
+}
+
+void RunScenario(const RunOptions &options) {
+    std::error_code ec;
+    if (options.root.empty() || !fs::is_directory(options.root, ec))
+        throw std::runtime_error("root folder '" + options.root + "' does not exist");
+    const fs::path root = fs::absolute(options.root);
+    const std::string scenarioPath = FindScenario(options.scenario, root.string());
+    const std::string savePath = OutputPath(options.savePath, "--save");
+    const std::string statePath = OutputPath(options.statePath, "--state");
+    const std::string logPath = OutputPath(options.logPath, "--log");
+    std::vector<KeyAction> keys;
+    if (!options.keysPath.empty())
+        keys = ReadKeyScript(fs::absolute(options.keysPath).string());
+    const ScenarioFile scenario = ScenarioFile::Read(scenarioPath);
+
+    WorkingDirectory cwd(root);
+    World world(root.string());
+    world.seed = options.seed;
+    world.accel = options.accel;
+    if (!logPath.empty()) {
+        // One run, one log: the file starts empty.
+        std::ofstream(logPath, std::ios::trunc);
+        world.logPath = logPath;
+    }
+    LoadScenario(world, scenario);
+    RunFrames(world, options, std::move(keys));
+
+    std::optional<std::string> stateText, scenarioText;
+    if (!statePath.empty())
+        stateText =
+            WorldState(world).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+    if (!savePath.empty())
+        scenarioText = CaptureScenario(world, scenario).Text();
+    if (stateText)
+        WriteFileAtomically(statePath, *stateText);
+    if (scenarioText)
+        WriteFileAtomically(savePath, *scenarioText);
+}
+
+} // namespace hullhost::sim

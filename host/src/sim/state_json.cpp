@@ -1,0 +1,148 @@
+#include "state_json.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+namespace hullhost::sim {
+
+using json = nlohmann::ordered_json;
+
+namespace {
+
+json Vec(const VECTOR3 &v) { return json::array({v.x, v.y, v.z}); }
+
+// The index of `item` in a list of owned items, or -1.
+template <typename T> int IndexOf(const std::vector<std::unique_ptr<T>> &list, const T *item) {
+    auto it = std::find_if(list.begin(), list.end(), [item](auto &p) { return p.get() == item; });
+    return it == list.end() ? -1 : static_cast<int>(std::distance(list.begin(), it));
+}
+
+json Body(const Vessel &v) {
+    json touchdown = json::array();
+    for (const auto &t : v.touchdown)
+        touchdown.push_back(Vec(t.pos));
+    return {
+        {"emptyMass", v.emptyMass},
+        {"mass", v.Mass()},
+        {"size", v.size},
+        {"pmi", Vec(v.pmi)},
+        {"crossSections", Vec(v.crossSections)},
+        {"rotDrag", Vec(v.rotDrag)},
+        {"cw", json::array({v.cw[0], v.cw[1], v.cw[2], v.cw[3]})},
+        {"touchdownPoints", touchdown},
+        {"focusEnabled", v.focusEnabled},
+    };
+}
+
+json Flight(const World &world, const Vessel &v) {
+    const hullhost::Body *earth = world.Earth();
+    VECTOR3 origin = earth ? earth->pos : VECTOR3{0, 0, 0};
+    VECTOR3 originVel = earth ? earth->vel : VECTOR3{0, 0, 0};
+    return {
+        {"status", v.landed ? "landed" : "free"},
+        {"rpos", Vec(v.pos - origin)},
+        {"rvel", Vec(v.vel - originVel)},
+    };
+}
+
+json Propellants(const Vessel &v) {
+    json list = json::array();
+    for (const auto &p : v.propellants)
+        list.push_back({{"maxMass", p->maxMass}, {"mass", p->mass}});
+    return list;
+}
+
+json Thrusters(const Vessel &v) {
+    json list = json::array();
+    for (const auto &t : v.thrusters)
+        list.push_back({
+            {"pos", Vec(t->pos)},
+            {"dir", Vec(t->dir)},
+            {"maxThrust", t->maxThrust0},
+            {"isp", t->isp0},
+            {"propellant", IndexOf(v.propellants, t->propellant)},
+            {"level", t->level},
+        });
+    return list;
+}
+
+json ThrusterGroups(const Vessel &v) {
+    json list = json::array();
+    for (const auto &g : v.groups) {
+        json members = json::array();
+        for (const Thruster *t : g->thrusters)
+            members.push_back(IndexOf(v.thrusters, t));
+        list.push_back(
+            {{"type", static_cast<int>(g->type)}, {"thrusters", members}, {"level", v.GroupLevel(*g)}});
+    }
+    return list;
+}
+
+// Every mesh slot, so that list positions are mesh indices; a deleted slot
+// says so.
+json Meshes(const Vessel &v) {
+    json list = json::array();
+    for (const auto &m : v.meshes) {
+        json mesh = {{"file", m.file}, {"offset", Vec(m.offset)}, {"visibility", m.visibility}};
+        if (m.deleted)
+            mesh["deleted"] = true;
+        list.push_back(mesh);
+    }
+    return list;
+}
+
+json Docks(const Vessel &v) {
+    json list = json::array();
+    for (const auto &d : v.docks)
+        list.push_back({{"pos", Vec(d->pos)}, {"dir", Vec(d->dir)}, {"rot", Vec(d->rot)}});
+    return list;
+}
+
+json Attachments(const Vessel &v) {
+    json list = json::array();
+    for (const auto &a : v.attachments)
+        list.push_back({
+            {"toParent", a->toParent},
+            {"id", a->id},
+            {"pos", Vec(a->pos)},
+            {"dir", Vec(a->dir)},
+            {"rot", Vec(a->rot)},
+            {"attached", a->attached ? json(a->attached->Name()) : json(nullptr)},
+        });
+    return list;
+}
+
+} // namespace
+
+json VesselState(const World &world, const Vessel &v) {
+    json out = {{"name", v.Name()}, {"class", v.ClassName()}};
+    out.update(Body(v));
+    out.update(Flight(world, v));
+    out["propellants"] = Propellants(v);
+    out["thrusters"] = Thrusters(v);
+    out["thrusterGroups"] = ThrusterGroups(v);
+    out["meshes"] = Meshes(v);
+    out["docks"] = Docks(v);
+    out["attachments"] = Attachments(v);
+    return out;
+}
+
+json WorldState(const World &world) {
+    json annotations = json::array();
+    for (const auto &a : world.annotations)
+        annotations.push_back(a->text);
+    json vessels = json::array();
+    for (const auto &v : world.Vessels())
+        vessels.push_back(VesselState(world, *v));
+    return {
+        {"simt", world.simt},
+        {"mjd", world.Mjd()},
+        {"focus", world.focus ? json(world.focus->Name()) : json(nullptr)},
+        {"annotations", annotations},
+        {"debugString", std::string(world.debugString, strnlen(world.debugString, sizeof world.debugString))},
+        {"vessels", vessels},
+    };
+}
+
+} // namespace hullhost::sim

@@ -1,0 +1,18 @@
+// The host-side state of a world as JSON, for outside tools and tests. The
+// field names are fixed; new fields go into the function of their part.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "core/world.h"
+
+namespace hullhost::sim {
+
+// {"simt", "mjd", "focus", "annotations", "debugString", "vessels": [...]}
+nlohmann::ordered_json WorldState(const World &world);
+// One vessel: mass and shape, flight state (rpos and rvel relative to the
+// Earth, global frame), propellants, thrusters, groups, meshes, docks and
+// attachments.
+nlohmann::ordered_json VesselState(const World &world, const Vessel &v);
+
+} // namespace hullhost::sim

@@ -1,0 +1,4 @@
+// The main engine watch.
+#include "frame/hullkit.h"
+
+void HULLKIT::WatchMainEngine() {}

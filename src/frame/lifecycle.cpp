@@ -1,0 +1,74 @@
+// The road of a vessel: loading its scenario block, reading its
+// configuration, finishing it in the host, and its step.
+#include <strings.h>
+
+#include "frame/hullkit.h"
+
+void HULLKIT::clbkLoadStateEx(FILEHANDLE scn, void *status) {
+    CreationDeferred = false;
+    char *line;
+    while (oapiReadScenario_nextline(scn, line))
+        PendingLines.emplace_back(line);
+    FirstPass(status);
+    LoadConfiguration();
+}
+
+// Each line goes to ParseScenarioLine; STATUS and SUBTYPE are noted on the
+// way. A block without STATUS lands on the Earth.
+void HULLKIT::FirstPass(void *status) {
+    bool statusSeen = false;
+    for (size_t i = 0; i < PendingLines.size(); ++i) {
+        std::string line = PendingLines[i];
+        if (strncasecmp(line.c_str(), "STATUS", 6) == 0) {
+            statusSeen = true;
+            if (line.size() >= 13 && line.compare(7, 6, "Landed") == 0)
+                Landed = true;
+        } else if (strncasecmp(line.c_str(), "SUBTYPE", 7) == 0) {
+            subtype = line.size() > 8 ? line.substr(8) : std::string();
+        }
+        ParseScenarioLine(line.data(), status);
+    }
+    if (!statusSeen && status) {
+        char landed[] = "STATUS Landed Earth";
+        ParseScenarioLine(landed, status);
+    }
+}
+
+void HULLKIT::LoadConfiguration() {
+    FindController();
+    ResolveSubtype();
+    LocateAndReadConfig();
+    MergeInto(cfgMerged, cfgVariant, cfgClass, cfgCommon);
+    clbkConfigLoaded();
+}
+
+void HULLKIT::clbkPostCreation() {
+    if (!CreationDeferred)
+        ApplyConfiguration();
+}
+
+void HULLKIT::ApplyConfiguration() {
+    SetVisibilityLimit(VisLimitMesh, VisLimitSpot);
+    ReplayScenarioLines();
+    SetEnableFocus(FocusEnabled);
+}
+
+void HULLKIT::clbkPreStep(double simt, double simdt, double) {
+    if (Crashed)
+        return;
+    if (SkipNextStep) {
+        SkipNextStep = false;
+        return;
+    }
+    SimTime = simt;
+    SimStep = simdt;
+    SysStep = oapiGetSysStep();
+    WalkUpdaters();
+}
+
+void HULLKIT::ReplayScenarioLines() {
+    for (size_t i = 0; i < PendingLines.size(); ++i) {
+        std::string line = PendingLines[i];
+        ParseScenarioLineLate(line.data());
+    }
+}

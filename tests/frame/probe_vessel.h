@@ -1,0 +1,43 @@
+// A framework vessel for tests: it records what reaches it and brings a
+// stage table of updaters and timer events whose effects can be seen.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "frame/hullkit.h"
+
+class ProbeVessel : public HULLKIT {
+  public:
+    ProbeVessel(OBJHANDLE h, int fmodel);
+
+    void ParseScenarioLine(char *line, void *status) override;
+    void ParseScenarioLineLate(char *line) override;
+    void ApplyConfiguration() override;
+    intptr_t OnPeerMessage(OBJHANDLE sender, int code, intptr_t argument) override;
+
+    // Updaters that log their runs; some change the list while it is walked.
+    void U_A();
+    void U_B();
+    void U_C();
+    void U_ADDS_C();
+    void U_REMOVES_SELF();
+    void U_REMOVES_A();
+    // Timer events that log their firing.
+    void E_ONE();
+    void E_TWO();
+    void E_READDS_SELF();
+
+    std::vector<std::string> firstPass, secondPass, runs;
+    int applyCount = 0;
+
+    // Controller behaviour, when this probe plays the controller.
+    bool actAsController = false;
+    std::string subtypeAnswer;
+    char sharedBlock[256] = {};
+    std::vector<int> receivedCodes;
+    std::vector<std::vector<char>> reports;
+};
+
+VESSEL *ProbeInit(OBJHANDLE h, int fmodel);
+void ProbeExit(VESSEL *v);

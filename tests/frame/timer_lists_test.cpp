@@ -1,0 +1,109 @@
+// The four timer lists: when they fire, how they stop, and their scenario lines.
+#include "probe_fixture.h"
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class TimerTest : public ProbeTest {
+  protected:
+    TimerTest() : p(LoadProbe("P1")) { env.world->Frame(0.1); } // the step that does nothing
+
+    // A main engine the engine timers can count.
+    void AddMainEngine() {
+        PROPELLANT_HANDLE tank = p.CreatePropellantResource(1e6);
+        THRUSTER_HANDLE th = p.CreateThruster(_V(0, 0, -2), _V(0, 0, 1), 1.0, tank, 3000.0);
+        p.CreateThrusterGroup(&th, 1, THGROUP_MAIN);
+    }
+    ProbeVessel &p;
+};
+
+TEST_F(TimerTest, OneShotFiresOnceAtItsTimeAndItsUpdaterGoes) {
+    p.AddOneShot(0.5, Call(&ProbeVessel::E_ONE));
+    EXPECT_TRUE(p.HasUpdater(&HULLKIT::H_TIMER_1T));
+    env.Run(0.4);
+    EXPECT_THAT(p.runs, IsEmpty());
+    env.Run(0.2);
+    EXPECT_THAT(p.runs, ElementsAre("ONE@0.600000"));
+    EXPECT_FALSE(p.HasUpdater(&HULLKIT::H_TIMER_1T));
+    EXPECT_EQ(p.UpdatersText(), "");
+}
+
+TEST_F(TimerTest, SecondAdditionDoesNotMoveTheFirstTime) {
+    p.AddOneShot(5.0, Call(&ProbeVessel::E_ONE));
+    p.AddOneShot(1.0, Call(&ProbeVessel::E_ONE));
+    env.Run(4.0);
+    EXPECT_THAT(p.runs, IsEmpty());
+    env.Run(1.2);
+    EXPECT_EQ(p.runs.size(), 1u);
+}
+
+TEST_F(TimerTest, EventAddedFromItsOwnCallIsLost) {
+    p.AddOneShot(0.0, Call(&ProbeVessel::E_READDS_SELF));
+    env.Run(3.0);
+    EXPECT_THAT(p.runs, ElementsAre("READDS"));
+    EXPECT_THAT(p.OneShotEvents, IsEmpty());
+}
+
+TEST_F(TimerTest, EngineTimerCountsOnlyBurningSeconds) {
+    AddMainEngine();
+    p.AddEngineOneShot(10.0, Call(&ProbeVessel::E_TWO));
+    p.SetThrusterGroupLevel(THGROUP_MAIN, 0.3);
+    env.Run(4.0);
+    p.SetThrusterGroupLevel(THGROUP_MAIN, 0.0);
+    env.Run(20.0);
+    EXPECT_THAT(p.runs, IsEmpty());
+    EXPECT_EQ(p.EngineTimersText(), "E_TWO:6.000000, ");
+    p.SetThrusterGroupLevel(THGROUP_MAIN, 1.0);
+    env.Run(5.9);
+    EXPECT_THAT(p.runs, IsEmpty());
+    env.Run(0.2);
+    EXPECT_EQ(p.runs.size(), 1u);
+    EXPECT_FALSE(p.HasUpdater(&HULLKIT::H_TIMER_1T_ME));
+}
+
+TEST_F(TimerTest, SecondListRunsOncePerStepAtLongSteps) {
+    p.AddSecondEvent(Call(&ProbeVessel::E_ONE));
+    for (int i = 0; i < 3; ++i)
+        env.world->Frame(5.0);
+    EXPECT_EQ(p.runs.size(), 3u);
+    EXPECT_DOUBLE_EQ(p.NextSecond, p.SimTime + 1.0);
+}
+
+TEST_F(TimerTest, RemovingTheLastPeriodicEventStopsItsUpdater) {
+    p.AddSecondEvent(Call(&ProbeVessel::E_ONE));
+    p.AddMinuteEvent(Call(&ProbeVessel::E_TWO));
+    p.RemoveSecondEvent(Call(&ProbeVessel::E_ONE));
+    p.RemoveMinuteEvent(Call(&ProbeVessel::E_ONE)); // not in the list: the minute list stays
+    EXPECT_FALSE(p.HasUpdater(&HULLKIT::H_TIMER_P1S));
+    EXPECT_TRUE(p.HasUpdater(&HULLKIT::H_TIMER_P10M));
+    env.Run(2.0);
+    p.AddSecondEvent(Call(&ProbeVessel::E_ONE));
+    EXPECT_NEAR(p.NextSecond, oapiGetSimTime() + 1.0, 1e-9);
+}
+
+TEST_F(TimerTest, ListsWriteTheirScenarioTexts) {
+    AddMainEngine();
+    p.AddOneShot(3.25, &HULLKIT::H_DUST);
+    p.AddOneShot(1.0, &HULLKIT::H_UNPARK);
+    p.AddEngineOneShot(2.5, Call(&ProbeVessel::E_TWO));
+    p.AddSecondEvent(&HULLKIT::H_AWARENESS);
+    p.AddMinuteEvent(&HULLKIT::H_CHK_SPOTLIGHTS);
+    EXPECT_EQ(p.OneShotTimersText(), "H_DUST:3.250000, H_UNPARK:1.000000, ");
+    EXPECT_EQ(p.EngineTimersText(), "E_TWO:2.500000, ");
+    EXPECT_EQ(p.SecondEventsText(), "H_AWARENESS, ");
+    EXPECT_EQ(p.MinuteEventsText(), "H_CHK_SPOTLIGHTS, ");
+    EXPECT_EQ(p.UpdatersText(), "H_TIMER_1T, H_TIMER_1T_ME, H_TIMER_P1S, H_TIMER_P10M, ");
+}
+
+TEST_F(ProbeTest, ScenarioLinesRestoreTheListsAndTheirServingUpdaters) {
+    ProbeVessel &p =
+        LoadProbe("P1", {"STATUS Orbiting Earth", "updaters U_A U_B, NOT_A_NAME, ",
+                         "TIMERS_1T H_DUST:12.5, E_ONE:3.000000, BOGUS:1, ", "TIMERS_1T_ME E_TWO:4.000000, ",
+                         "TIMERS_P1S H_AWARENESS, ", "TIMERS_P10M H_CHK_SPOTLIGHTS, "});
+    EXPECT_EQ(p.UpdatersText(), "U_A, U_B, H_TIMER_1T, H_TIMER_1T_ME, H_TIMER_P1S, H_TIMER_P10M, ");
+    EXPECT_EQ(p.OneShotTimersText(), "H_DUST:12.500000, E_ONE:3.000000, ");
+    EXPECT_EQ(p.EngineTimersText(), "E_TWO:4.000000, ");
+    EXPECT_EQ(p.SecondEventsText(), "H_AWARENESS, ");
+    // None of these lines reached the host.
+    EXPECT_EQ(env.world->log.size(), 0u);
+}

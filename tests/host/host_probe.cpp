@@ -1,0 +1,86 @@
+#include "host_probe.h"
+
+#include <cstdio>
+#include <cstring>
+
+std::vector<std::string> &ProbeEvents() {
+    static std::vector<std::string> events;
+    return events;
+}
+
+HostProbe::HostProbe(OBJHANDLE h, int fmodel) : VESSEL3(h, fmodel) { Record("construct"); }
+
+HostProbe::~HostProbe() { ProbeEvents().push_back("destruct"); }
+
+void HostProbe::Record(const std::string &what) const {
+    ProbeEvents().push_back(std::string(GetName()) + " " + what);
+}
+
+void HostProbe::clbkSetClassCaps(FILEHANDLE) {
+    Record("setClassCaps");
+    SetEmptyMass(1200.0);
+    SetSize(4.0);
+    PROPELLANT_HANDLE tank = CreatePropellantResource(300.0, 250.0);
+    THRUSTER_HANDLE main = CreateThruster(_V(0, 0, -2), _V(0, 0, 1), 5000.0, tank, 3000.0);
+    CreateThrusterGroup(&main, 1, THGROUP_MAIN);
+    CreateDock(_V(0, 0, 2), _V(0, 0, 1), _V(0, 1, 0));
+    CreateAttachment(false, _V(0, 0, 3), _V(0, 0, 1), _V(0, 1, 0), "PROBE");
+}
+
+void HostProbe::clbkLoadStateEx(FILEHANDLE scn, void *status) {
+    char *line;
+    while (oapiReadScenario_nextline(scn, line)) {
+        Record(std::string("load ") + line);
+        if (std::strncmp(line, "PROBE", 5) != 0)
+            ParseScenarioLineEx(line, status);
+    }
+}
+
+void HostProbe::clbkSaveState(FILEHANDLE scn) {
+    Record("save");
+    SaveDefaultState(scn);
+    oapiWriteScenario_int(scn, "PROBE_FRAMES", frames);
+    oapiWriteScenario_string(scn, "PROBE_KEYS", keys.c_str());
+    char held[64];
+    std::snprintf(held, sizeof held, "M=%d J=%d CTRL=%d", heldM, heldJ, heldCtrl);
+    oapiWriteScenario_string(scn, "PROBE_HELD", held);
+}
+
+void HostProbe::clbkPostCreation() {
+    Record("postCreation");
+    NOTEHANDLE note = oapiCreateAnnotation(true, 1.0, _V(1, 1, 1));
+    std::string text = std::string("probe ") + GetName() + " ready";
+    oapiAnnotationSetText(note, text.data());
+    oapiWriteLog(text.data());
+}
+
+void HostProbe::clbkFocusChanged(bool getfocus, OBJHANDLE, OBJHANDLE) {
+    Record(getfocus ? "focus" : "unfocus");
+}
+
+void HostProbe::clbkPreStep(double simt, double, double) {
+    ++frames;
+    Record("preStep");
+    std::snprintf(oapiDebugString(), 256, "frames %d at %.2f", frames, simt);
+}
+
+int HostProbe::clbkConsumeBufferedKey(DWORD key, bool down, char *kstate) {
+    if (!keys.empty())
+        keys += ' ';
+    char text[16];
+    std::snprintf(text, sizeof text, "%c%u%s", down ? '+' : '-', static_cast<unsigned>(key),
+                  KEYMOD_LCONTROL(kstate) ? "^" : "");
+    keys += text;
+    return 1;
+}
+
+int HostProbe::clbkConsumeDirectKey(char *kstate) {
+    heldM += KEYDOWN(kstate, OAPI_KEY_M) ? 1 : 0;
+    heldJ += KEYDOWN(kstate, OAPI_KEY_J) ? 1 : 0;
+    heldCtrl += KEYDOWN(kstate, OAPI_KEY_LCONTROL) ? 1 : 0;
+    return 0;
+}
+
+VESSEL *HostProbeInit(OBJHANDLE h, int fmodel) { return new HostProbe(h, fmodel); }
+
+void HostProbeExit(VESSEL *v) { delete static_cast<HostProbe *>(v); }

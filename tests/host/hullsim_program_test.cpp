@@ -1,0 +1,157 @@
+// The hullsim program as users run it: exit codes, the one error line, and a
+// whole run with the probe module loaded from its file.
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <sys/wait.h>
+
+#include "scenario/scenario_file.h"
+#include "temp_dir.h"
+
+using hosttest::ReadText;
+using hosttest::TempDir;
+using hosttest::WriteText;
+
+namespace {
+
+struct Result {
+    int code = -1;
+    std::string out, err;
+};
+
+std::string Quote(const std::string &s) {
+    std::string q = "'";
+    for (char c : s)
+        q += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return q + "'";
+}
+
+// A host root with the probe class and its module, and a folder for outputs.
+class HullsimProgramTest : public ::testing::Test {
+  protected:
+    HullsimProgramTest() {
+        WriteText(dir / "root/Config/Vessels/Test/Probe.cfg", "Module = Test\\Probe\n");
+        std::filesystem::create_directories(dir / "root/Modules/Test");
+        std::filesystem::copy_file(PROBE_MODULE, dir / "root/Modules/Test/Probe.dll");
+        WriteText(dir / "root/Scenarios/probe.scn",
+                  "BEGIN_ENVIRONMENT\n  Date MJD 60000\nEND_ENVIRONMENT\n"
+                  "BEGIN_SHIPS\nP:Test\\Probe\n  PROBE_X 1\nEND\nEND_SHIPS\n");
+    }
+
+    Result Run(const std::vector<std::string> &args) const {
+        std::string cmd = Quote(HULLSIM_EXE);
+        for (const auto &a : args)
+            cmd += " " + Quote(a);
+        cmd += " >" + Quote(dir / "out.txt") + " 2>" + Quote(dir / "err.txt") + " </dev/null";
+        Result r;
+        int status = std::system(cmd.c_str());
+        r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        r.out = ReadText(dir / "out.txt");
+        r.err = ReadText(dir / "err.txt");
+        return r;
+    }
+
+    // Runs and expects a failure with `code` and one error line holding `text`.
+    void ExpectError(const std::vector<std::string> &args, int code, const std::string &text) const {
+        Result r = Run(args);
+        EXPECT_EQ(r.code, code) << r.err;
+        EXPECT_EQ(r.err.rfind("hullsim: ", 0), 0u) << r.err;
+        EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+        EXPECT_NE(r.err.find(text), std::string::npos) << r.err;
+    }
+
+    std::string Root() const { return dir / "root"; }
+
+    TempDir dir;
+};
+
+TEST_F(HullsimProgramTest, HelpGoesToStandardOutput) {
+    Result r = Run({"--help"});
+    EXPECT_EQ(r.code, 0);
+    EXPECT_NE(r.out.find("hullsim run"), std::string::npos) << r.out;
+    EXPECT_TRUE(r.err.empty());
+}
+
+TEST_F(HullsimProgramTest, UsageErrorsEndWithCodeTwo) {
+    ExpectError({}, 2, "no command given");
+    ExpectError({"run", "probe", "--root", Root(), "--bogus"}, 2, "--bogus");
+    ExpectError({"run", "probe", "--root", Root(), "--dt", "-0.5"}, 2, "--dt");
+    WriteText(dir / "keys.txt", "0 M\n0.5 NOSUCHKEY\n");
+    ExpectError({"run", "probe", "--root", Root(), "--keys", dir / "keys.txt"}, 2,
+                "keys.txt:2: unknown key 'NOSUCHKEY'");
+}
+
+TEST_F(HullsimProgramTest, RunErrorsEndWithCodeOneAndWriteNothing) {
+    const std::string save = dir / "out.scn", state = dir / "out.json";
+    ExpectError({"run", "nowhere", "--root", Root()}, 1, "scenario 'nowhere' not found");
+    ExpectError({"run", "probe", "--root", dir / "noroot"}, 1, "does not exist");
+    ExpectError({"run", "probe", "--root", Root(), "--keys", dir / "nokeys.txt"}, 1, "nokeys.txt");
+    ExpectError({"run", "probe", "--root", Root(), "--save", dir / "nofolder/out.scn"}, 1, "nofolder");
+
+    WriteText(Root() + "/Scenarios/alien.scn",
+              "BEGIN_SHIPS\nP:Test\\Probe\nEND\nQ:Alien\\Ship\nEND\nEND_SHIPS\n");
+    ExpectError({"run", "alien", "--root", Root(), "--save", save, "--state", state}, 1, "Alien\\Ship");
+
+    WriteText(Root() + "/Scenarios/broken.scn", "BEGIN_SHIPS\nP Test\\Probe\nEND\nEND_SHIPS\n");
+    ExpectError({"run", "broken.scn", "--root", Root(), "--save", save}, 1, "broken.scn:2: ship line");
+
+    // A class whose module file is not a library.
+    WriteText(Root() + "/Config/Vessels/Test/Fake.cfg", "Module = Test\\Fake\n");
+    WriteText(Root() + "/Modules/Test/Fake.dll", "not a library");
+    WriteText(Root() + "/Scenarios/fake.scn", "BEGIN_SHIPS\nF:Test\\Fake\nEND\nEND_SHIPS\n");
+    ExpectError({"run", "fake", "--root", Root(), "--state", state}, 1, "Fake.dll");
+
+    EXPECT_FALSE(std::filesystem::exists(save));
+    EXPECT_FALSE(std::filesystem::exists(state));
+    EXPECT_EQ(hosttest::FolderEntries(dir.Path().string()),
+              (std::vector<std::string>{"err.txt", "out.txt", "root"}));
+}
+
+TEST_F(HullsimProgramTest, RunLoadsTheModulePlaysKeysAndWritesResults) {
+    // Ctrl+J is held for three frames from 0.1 s; M is pressed once at 0.04 s.
+    WriteText(dir / "keys.txt", "; test keys\n0.1 Ctrl+J 0.06\n0.04 M\n");
+    const std::string save = dir / "out.scn", state = dir / "out.json", log = dir / "host.log";
+    Result r = Run({"run", "probe", "--root", Root(), "--for", "0.2", "--seed", "7", "--keys",
+                    dir / "keys.txt", "--save", save, "--state", state, "--log", log});
+    ASSERT_EQ(r.code, 0) << r.err;
+    EXPECT_TRUE(r.err.empty()) << r.err; // no progress line when stderr is no terminal
+
+    auto saved = hullhost::ScenarioFile::Read(save);
+    ASSERT_EQ(saved.vessels.size(), 1u);
+    ASSERT_TRUE(saved.mjd.has_value());
+    EXPECT_DOUBLE_EQ(*saved.mjd, 60000.0 + 0.2 / 86400.0);
+    const auto &lines = saved.vessels[0].lines;
+    auto has = [&lines](const std::string &line) {
+        return std::find(lines.begin(), lines.end(), line) != lines.end();
+    };
+    EXPECT_TRUE(has("PROBE_FRAMES 10")) << saved.Text();
+    // M (50) down and up; J (36) down and up, with Ctrl held at its down event.
+    EXPECT_TRUE(has("PROBE_KEYS +50 -50 +36^ -36")) << saved.Text();
+    EXPECT_TRUE(has("PROBE_HELD M=1 J=3 CTRL=3")) << saved.Text();
+
+    auto json = nlohmann::json::parse(ReadText(state));
+    EXPECT_NEAR(json["simt"].get<double>(), 0.2, 1e-9);
+    EXPECT_EQ(json["focus"], "P");
+    EXPECT_EQ(json["vessels"][0]["name"], "P");
+    EXPECT_EQ(json["annotations"][0], "probe P ready");
+
+    EXPECT_NE(ReadText(log).find("probe P ready"), std::string::npos);
+    EXPECT_EQ(hosttest::FolderEntries(dir.Path().string()),
+              (std::vector<std::string>{"err.txt", "host.log", "keys.txt", "out.json", "out.scn", "out.txt",
+                                        "root"}));
+}
+
+TEST_F(HullsimProgramTest, SavedScenarioRunsAgain) {
+    // Without --for the scenario is loaded and saved with no frame.
+    const std::string first = dir / "first.scn", second = dir / "second.scn";
+    ASSERT_EQ(Run({"run", Root() + "/Scenarios/probe.scn", "--root", Root(), "--save", first}).code, 0);
+    auto lines = hullhost::ScenarioFile::Read(first).vessels.at(0).lines;
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "PROBE_FRAMES 0"), lines.end());
+    Result r = Run({"run", first, "--root", Root(), "--for", "0.1", "--save", second});
+    ASSERT_EQ(r.code, 0) << r.err;
+    auto saved = hullhost::ScenarioFile::Read(second);
+    ASSERT_TRUE(saved.mjd.has_value());
+    EXPECT_NEAR(*saved.mjd, 60000.0 + 0.1 / 86400.0, 1e-9);
+}
+
+} // namespace

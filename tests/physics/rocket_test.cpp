@@ -1,0 +1,79 @@
+// Thrust: a full burn against the rocket equation, and the exhaust velocity
+// that ambient pressure leaves.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+#include "flight_test_support.h"
+#include "physics/propulsion.h"
+
+using namespace hullhost;
+using namespace hullhost::testing;
+
+namespace {
+
+constexpr double kDry = 1000.0, kPropellant = 3000.0, kThrust = 1e5, kIsp = 3000.0;
+
+Thruster &AddEngine(Vessel &v, double propellant) {
+    auto tank = std::make_unique<Propellant>();
+    tank->maxMass = tank->mass = propellant;
+    auto engine = std::make_unique<Thruster>();
+    engine->dir = {0, 0, 1};
+    engine->pos = {0, 0, -2};
+    engine->maxThrust0 = kThrust;
+    engine->isp0 = kIsp;
+    engine->propellant = tank.get();
+    v.propellants.push_back(std::move(tank));
+    v.thrusters.push_back(std::move(engine));
+    return *v.thrusters.back();
+}
+
+} // namespace
+
+class FullBurn : public ::testing::TestWithParam<double> {};
+
+TEST_P(FullBurn, DeltaVFollowsTheRocketEquation) {
+    World w(".");
+    w.bodies.clear(); // deep space
+    Vessel &v = AddVessel(w, "stage", kDry, {0, 0, 0}, {0, 0, 0});
+    AddEngine(v, kPropellant).level = 1.0;
+    w.accel = GetParam();
+    RunFor(w, 150.0, 0.1); // burns out after 90 s
+    const double expected = kIsp * std::log((kDry + kPropellant) / kDry);
+    EXPECT_NEAR(length(v.vel) / expected, 1.0, 1e-3);
+    EXPECT_NEAR(v.vel.z / expected, 1.0, 1e-6);
+    EXPECT_EQ(v.propellants[0]->mass, 0.0);
+    EXPECT_NEAR(v.Mass(), kDry, 1e-9);
+}
+
+INSTANTIATE_TEST_SUITE_P(TimeAccelerations, FullBurn, ::testing::Values(1.0, 10.0, 1000.0));
+
+TEST(Thrust, AmbientPressureLowersExhaustVelocityNotFlow) {
+    World w(".");
+    Vessel &v = AddVessel(w, "stage", kDry, {0, 0, 0}, {0, 0, 0});
+    Thruster &engine = AddEngine(v, kPropellant);
+    engine.ispRef = 2400.0;
+    engine.pRef = 100e3;
+    engine.level = 0.5;
+    const double flow = physics::ThrusterFlow(engine);
+    EXPECT_NEAR(flow, 0.5 * kThrust / kIsp, 1e-12);
+    // Thrust is flow times exhaust velocity; halfway to pRef that velocity is
+    // halfway between its vacuum and its reference value.
+    EXPECT_NEAR(physics::ThrusterForce(engine, 0.0) / flow, kIsp, 1e-9);
+    EXPECT_NEAR(physics::ThrusterForce(engine, 50e3) / flow, 2700.0, 1e-9);
+    EXPECT_NEAR(physics::ThrusterForce(engine, 100e3) / flow, 2400.0, 1e-9);
+}
+
+TEST(Thrust, EmptyTankOrNoTankGivesNothing) {
+    World w(".");
+    w.bodies.clear();
+    Vessel &v = AddVessel(w, "stage", kDry, {0, 0, 0}, {0, 0, 0});
+    AddEngine(v, 0.0).level = 1.0;
+    auto loose = std::make_unique<Thruster>();
+    loose->maxThrust0 = kThrust;
+    loose->level = 1.0;
+    v.thrusters.push_back(std::move(loose));
+    RunFor(w, 1.0);
+    EXPECT_EQ(length(v.vel), 0.0);
+}
