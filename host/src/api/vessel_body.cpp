@@ -1,7 +1,6 @@
 // A vessel's body set-up: mass, shape, drag, touchdown points, docks, camera.
 // Every setter takes effect at once.
 #include <algorithm>
-#include <cmath>
 
 #include "VesselAPI.h"
 #include "core/vessel.h"
@@ -33,14 +32,12 @@ void VESSEL::SetSurfaceFrictionCoeff(double mu_lng, double mu_lat) const {
     vessel->frictionLat = mu_lat;
 }
 
-// The three-point form: a stiff, damped contact with the vessel's friction.
+// The three-point form: stiffness, damping and friction left at 0, so that
+// the flight model derives them from the vessel's mass as it is when it lands.
 void VESSEL::SetTouchdownPoints(const VECTOR3 &pt1, const VECTOR3 &pt2, const VECTOR3 &pt3) const {
-    const double mass = std::max(vessel->Mass(), 1.0);
-    const double stiffness = mass * 100.0;
-    const double damping = 2.0 * std::sqrt(stiffness * mass);
     vessel->touchdown.clear();
     for (const VECTOR3 &p : {pt1, pt2, pt3})
-        vessel->touchdown.push_back({p, stiffness, damping, vessel->frictionLat, vessel->frictionLng});
+        vessel->touchdown.push_back({p, 0.0, 0.0, 0.0, 0.0});
 }
 
 void VESSEL::SetTouchdownPoints(const TOUCHDOWNVTX *tdvtx, DWORD ntdvtx) const {

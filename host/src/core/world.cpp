@@ -135,8 +135,12 @@ Vessel &World::AddBareVessel(const std::string &name) {
 }
 
 void World::PostCreate(Vessel &v) {
-    CallbackScope scope(*this);
-    static_cast<VESSEL2 *>(v.iface)->clbkPostCreation();
+    {
+        CallbackScope scope(*this);
+        static_cast<VESSEL2 *>(v.iface)->clbkPostCreation();
+    }
+    if (callbackDepth_ == 0)
+        FlushDeletions();
 }
 
 void World::RequestDelete(Vessel &v) {
@@ -174,6 +178,7 @@ void World::Frame(double realDt) {
             }
             v2->clbkConsumeDirectKey(keyState);
         }
+        bufferedKeys.clear(); // without a focus vessel nobody hears them
         // Vessels created during the walk take their first step next frame.
         const size_t count = vessels_.size();
         for (size_t i = 0; i < count && i < vessels_.size(); ++i)

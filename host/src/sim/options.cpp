@@ -70,6 +70,8 @@ void CheckNumbers(const NumberTexts &n, RunOptions &o) {
         o.accel = ParseNumber("--accel", n.accel, false);
     if (!n.seed.empty())
         o.seed = ParseSeed(n.seed);
+    if (!std::isfinite(o.dt * o.accel))
+        throw UsageError("--dt times --accel is too large");
     if (FrameCount(o.seconds, o.dt * o.accel) > kMaxFrames)
         throw UsageError("--for " + n.seconds + " takes more than " +
                          std::to_string(static_cast<long>(kMaxFrames)) + " frames; raise --dt or --accel");

@@ -1,5 +1,6 @@
 #include "run.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -81,12 +82,17 @@ std::string FindScenario(const std::string &name, const std::string &root) {
     if (name.empty())
         throw std::runtime_error("no scenario named");
     fs::path scenarios = fs::path(root) / "Scenarios";
-    for (const fs::path &candidate : {fs::path(name), scenarios / name, scenarios / (name + ".scn")})
+    std::vector<std::string> looked;
+    for (const fs::path &candidate : {fs::path(name), scenarios / name, scenarios / (name + ".scn")}) {
         if (IsFile(candidate))
             return fs::absolute(candidate).string();
-    throw std::runtime_error("scenario '" + name + "' not found (looked for " + name + ", " +
-                             (scenarios / name).string() + " and " + (scenarios / (name + ".scn")).string() +
-                             ")");
+        if (std::find(looked.begin(), looked.end(), candidate.string()) == looked.end())
+            looked.push_back(candidate.string());
+    }
+    std::string places;
+    for (const auto &p : looked)
+        places += (places.empty() ? "" : ", ") + p;
+    throw std::runtime_error("scenario '" + name + "' not found (looked for " + places + ")");
 }
 
 void RunScenario(const RunOptions &options) {
