@@ -1,6 +1,7 @@
 #include "host_probe.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 std::vector<std::string> &ProbeEvents() {
@@ -31,7 +32,9 @@ void HostProbe::clbkLoadStateEx(FILEHANDLE scn, void *status) {
     char *line;
     while (oapiReadScenario_nextline(scn, line)) {
         Record(std::string("load ") + line);
-        if (std::strncmp(line, "PROBE", 5) != 0)
+        if (std::strncmp(line, "PROBE_MAIN ", 11) == 0)
+            mainLevel = std::atof(line + 11);
+        else if (std::strncmp(line, "PROBE", 5) != 0)
             ParseScenarioLineEx(line, status);
     }
 }
@@ -48,6 +51,8 @@ void HostProbe::clbkSaveState(FILEHANDLE scn) {
 
 void HostProbe::clbkPostCreation() {
     Record("postCreation");
+    if (mainLevel > 0.0)
+        SetThrusterGroupLevel(THGROUP_MAIN, mainLevel);
     NOTEHANDLE note = oapiCreateAnnotation(true, 1.0, _V(1, 1, 1));
     std::string text = std::string("probe ") + GetName() + " ready";
     oapiAnnotationSetText(note, text.data());

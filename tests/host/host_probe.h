@@ -3,7 +3,8 @@
 // a dock and an attachment point, and writes what it saw into its scenario
 // block: PROBE_FRAMES (the number of steps), PROBE_KEYS (buffered key events,
 // "+32" down, "-32" up, "^" with Ctrl held) and PROBE_HELD (frames in which
-// M, J and the left Ctrl key were down).
+// M, J and the left Ctrl key were down). The scenario line PROBE_MAIN LEVEL
+// sets the main thrust level once the vessel is created.
 #pragma once
 
 #include <string>
@@ -28,6 +29,7 @@ class HostProbe : public VESSEL3 {
     int frames = 0;
     std::string keys;
     int heldM = 0, heldJ = 0, heldCtrl = 0;
+    double mainLevel = 0.0;
 
   private:
     void Record(const std::string &what) const;

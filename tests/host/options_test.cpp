@@ -52,8 +52,9 @@ TEST(OptionsTest, HelpListsTheRunOptions) {
     for (auto args : {std::vector<std::string>{"--help"}, {"-h"}, {"run", "--help"}}) {
         Command cmd = ParseCommandLine(args, "/root");
         EXPECT_TRUE(cmd.help);
-        for (const char *word : {"run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--seed", "--save",
-                                 "--state", "--keys", "--log"})
+        for (const char *word :
+             {"run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--seed", "--save", "--state",
+              "--keys", "--log", "--telemetry", "--track", "--telemetry-interval", "--plot"})
             EXPECT_NE(cmd.helpText.find(word), std::string::npos) << word << " in\n" << cmd.helpText;
     }
 }
@@ -83,6 +84,47 @@ TEST(OptionsTest, BadCommandLinesAreUsageErrors) {
         EXPECT_NE(message, "(no error)") << args.back();
         EXPECT_EQ(message.find('\n'), std::string::npos) << message;
     }
+}
+
+TEST(OptionsTest, TelemetryOptions) {
+    Command plain = ParseCommandLine({"run", "demo"}, "/root");
+    EXPECT_TRUE(plain.run.telemetryPath.empty());
+    EXPECT_TRUE(plain.run.plotPath.empty());
+    EXPECT_TRUE(plain.run.tracks.empty());
+    EXPECT_EQ(plain.run.telemetryInterval, 1.0);
+
+    // --track takes one name each time, so the scenario after it stays the
+    // scenario; a name given twice is recorded once.
+    Command all =
+        ParseCommandLine({"run", "--telemetry", "t.csv", "--plot", "p.svg", "--track", "B", "--track", "A",
+                          "--track", "B", "--telemetry-interval", "0.5", "--track", "C", "demo"},
+                         "/root");
+    EXPECT_EQ(all.run.scenario, "demo");
+    EXPECT_EQ(all.run.telemetryPath, "t.csv");
+    EXPECT_EQ(all.run.plotPath, "p.svg");
+    EXPECT_EQ(all.run.tracks, (std::vector<std::string>{"B", "A", "C"}));
+    EXPECT_EQ(all.run.telemetryInterval, 0.5);
+
+    EXPECT_EQ(OptionError({"run", "x", "--plot", "p.svg", "--telemetry-interval", "0"}),
+              "--telemetry-interval needs a number above 0, not '0'");
+    EXPECT_EQ(OptionError({"run", "x", "--plot", "p.svg", "--telemetry-interval", "-2"}),
+              "--telemetry-interval needs a number above 0, not '-2'");
+    EXPECT_EQ(OptionError({"run", "x", "--plot", "p.svg", "--telemetry-interval", "1s"}),
+              "--telemetry-interval needs a number above 0, not '1s'");
+    EXPECT_EQ(OptionError({"run", "x", "--track", "A"}), "--track needs --telemetry or --plot");
+    EXPECT_EQ(OptionError({"run", "x", "--telemetry-interval", "5"}),
+              "--telemetry-interval needs --telemetry or --plot");
+    EXPECT_EQ(OptionError({"run", "x", "--telemetry", "t.csv", "--track", ""}),
+              "--track needs a vessel name");
+    EXPECT_EQ(OptionError({"run", "x", "--telemetry", "t.csv", "--for", "2e7", "--dt", "1",
+                           "--telemetry-interval", "0.1"}),
+              "--telemetry-interval 0.1 takes more than 10000000 samples over --for 2e7; raise it");
+    // Few frames bound the samples too: one a frame at most.
+    EXPECT_EQ(ParseCommandLine({"run", "x", "--telemetry", "t.csv", "--for", "1e7", "--accel", "1e4",
+                                "--telemetry-interval", "0.1"},
+                               "/root")
+                  .run.telemetryInterval,
+              0.1);
 }
 
 TEST(FrameClockTest, RoundingDoesNotAddAFrame) {

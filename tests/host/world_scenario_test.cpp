@@ -140,11 +140,12 @@ TEST_F(WorldScenarioTest, StateHasTheFixedFields) {
     std::vector<std::string> fields;
     for (auto &[key, value] : v.items())
         fields.push_back(key);
-    EXPECT_EQ(fields, (std::vector<std::string>{
-                          "name",         "class",          "emptyMass", "mass",  "size",
-                          "pmi",          "crossSections",  "rotDrag",   "cw",    "touchdownPoints",
-                          "focusEnabled", "status",         "rpos",      "rvel",  "propellants",
-                          "thrusters",    "thrusterGroups", "meshes",    "docks", "attachments"}));
+    std::vector<std::string> want{"name",         "class",          "emptyMass", "mass",  "size",
+                                  "pmi",          "crossSections",  "rotDrag",   "cw",    "touchdownPoints",
+                                  "focusEnabled", "status",         "rpos",      "rvel",  "propellants",
+                                  "thrusters",    "thrusterGroups", "meshes",    "docks", "attachments"};
+    want.insert(want.end(), {"visual", "exhausts", "particleStreams", "beacons", "animations", "lights"});
+    EXPECT_EQ(fields, want);
     EXPECT_EQ(v["name"], "A");
     EXPECT_EQ(v["class"], "Test\\Probe");
     EXPECT_EQ(v["emptyMass"], 1200.0);

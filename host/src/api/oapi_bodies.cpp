@@ -12,49 +12,31 @@ using hullhost::Vessel;
 using hullhost::World;
 namespace physics = hullhost::physics;
 
-namespace {
-
-Object *ObjectOf(OBJHANDLE h) {
-    return World::Current().IsObject(h) ? reinterpret_cast<Object *>(h) : nullptr;
-}
-
-const Body *BodyOf(OBJHANDLE h) {
-    Object *o = ObjectOf(h);
-    return o && o->Kind() == ObjectKind::Body ? static_cast<const Body *>(o) : nullptr;
-}
-
-const Vessel *VesselOf(OBJHANDLE h) {
-    Object *o = ObjectOf(h);
-    return o && o->Kind() == ObjectKind::Vessel ? static_cast<const Vessel *>(o) : nullptr;
-}
-
-} // namespace
-
 double oapiGetMass(OBJHANDLE h) {
-    if (const Body *b = BodyOf(h)) {
+    if (const Body *b = World::Current().BodyFromHandle(h)) {
         return b->mass;
     }
-    const Vessel *v = VesselOf(h);
+    const Vessel *v = World::Current().VesselFromHandle(h);
     return v ? v->Mass() : 0.0;
 }
 
 double oapiGetSize(OBJHANDLE h) {
-    if (const Body *b = BodyOf(h)) {
+    if (const Body *b = World::Current().BodyFromHandle(h)) {
         return b->radius;
     }
-    const Vessel *v = VesselOf(h);
+    const Vessel *v = World::Current().VesselFromHandle(h);
     return v ? v->size : 0.0;
 }
 
 void oapiGetGlobalPos(OBJHANDLE h, VECTOR3 *pos) {
-    const Object *o = ObjectOf(h);
+    const Object *o = World::Current().ObjectFromHandle(h);
     if (pos) {
         *pos = o ? o->pos : VECTOR3{0, 0, 0};
     }
 }
 
 void oapiGetGlobalVel(OBJHANDLE h, VECTOR3 *vel) {
-    const Object *o = ObjectOf(h);
+    const Object *o = World::Current().ObjectFromHandle(h);
     if (vel) {
         *vel = o ? o->vel : VECTOR3{0, 0, 0};
     }
@@ -62,7 +44,7 @@ void oapiGetGlobalVel(OBJHANDLE h, VECTOR3 *vel) {
 
 // The position of `from` relative to `to`.
 void oapiGetRelativePos(OBJHANDLE from, OBJHANDLE to, VECTOR3 *pos) {
-    const Object *a = ObjectOf(from), *b = ObjectOf(to);
+    const Object *a = World::Current().ObjectFromHandle(from), *b = World::Current().ObjectFromHandle(to);
     if (pos) {
         *pos = (a ? a->pos : VECTOR3{0, 0, 0}) - (b ? b->pos : VECTOR3{0, 0, 0});
     }
@@ -70,7 +52,7 @@ void oapiGetRelativePos(OBJHANDLE from, OBJHANDLE to, VECTOR3 *pos) {
 
 // The velocity of `from` relative to `to`.
 void oapiGetRelativeVel(OBJHANDLE from, OBJHANDLE to, VECTOR3 *vel) {
-    const Object *a = ObjectOf(from), *b = ObjectOf(to);
+    const Object *a = World::Current().ObjectFromHandle(from), *b = World::Current().ObjectFromHandle(to);
     if (vel) {
         *vel = (a ? a->vel : VECTOR3{0, 0, 0}) - (b ? b->vel : VECTOR3{0, 0, 0});
     }
@@ -80,9 +62,9 @@ void oapiGetRotationMatrix(OBJHANDLE h, MATRIX3 *mat) {
     if (!mat) {
         return;
     }
-    if (const Body *b = BodyOf(h)) {
+    if (const Body *b = World::Current().BodyFromHandle(h)) {
         *mat = b->rot;
-    } else if (const Vessel *v = VesselOf(h)) {
+    } else if (const Vessel *v = World::Current().VesselFromHandle(h)) {
         *mat = v->rot;
     } else {
         *mat = identity();
@@ -90,7 +72,7 @@ void oapiGetRotationMatrix(OBJHANDLE h, MATRIX3 *mat) {
 }
 
 bool oapiGetHeading(OBJHANDLE h, double *heading) {
-    const Vessel *v = VesselOf(h);
+    const Vessel *v = World::Current().VesselFromHandle(h);
     if (!v || !heading) {
         return false;
     }
@@ -99,7 +81,7 @@ bool oapiGetHeading(OBJHANDLE h, double *heading) {
 }
 
 bool oapiGetAltitude(OBJHANDLE h, double *alt) {
-    const Vessel *v = VesselOf(h);
+    const Vessel *v = World::Current().VesselFromHandle(h);
     if (!v || !alt) {
         return false;
     }
@@ -108,12 +90,12 @@ bool oapiGetAltitude(OBJHANDLE h, double *alt) {
 }
 
 bool oapiPlanetHasAtmosphere(OBJHANDLE h) {
-    const Body *b = BodyOf(h);
+    const Body *b = World::Current().BodyFromHandle(h);
     return b && b->hasAtmosphere;
 }
 
 void oapiGetAtmPressureDensity(OBJHANDLE h, double *pressure, double *density) {
-    const Vessel *v = VesselOf(h);
+    const Vessel *v = World::Current().VesselFromHandle(h);
     physics::AirData air;
     if (v) {
         air = physics::VesselAirData(World::Current(), *v);
@@ -127,6 +109,6 @@ void oapiGetAtmPressureDensity(OBJHANDLE h, double *pressure, double *density) {
 }
 
 double oapiGetPlanetPeriod(OBJHANDLE h) {
-    const Body *b = BodyOf(h);
+    const Body *b = World::Current().BodyFromHandle(h);
     return b ? b->siderealPeriod : 0.0;
 }

@@ -6,6 +6,7 @@
 #include "OrbiterAPI.h"
 #include "core/line_file.h"
 #include "core/world.h"
+#include "visual/asset_files.h"
 
 using hullhost::LineFile;
 using hullhost::World;
@@ -30,6 +31,14 @@ const char *RootFolder(PathRoot root) {
         break;
     }
     return "";
+}
+
+bool Readable(const std::string &path) {
+    FILE *probe = std::fopen(path.c_str(), "rb");
+    if (!probe)
+        return false;
+    std::fclose(probe);
+    return true;
 }
 
 std::string FormatDouble(double d) {
@@ -77,9 +86,10 @@ FILEHANDLE oapiOpenFile(const char *fname, FileAccessMode mode, PathRoot root) {
     World &w = World::Current();
     std::string path = w.LocalPath(std::string(RootFolder(root)) + fname);
     if (mode == FILE_IN || mode == FILE_IN_ZEROONFAIL) {
-        if (FILE *probe = std::fopen(path.c_str(), "rb"))
-            std::fclose(probe);
-        else
+        // A mesh is named as for oapiLoadMesh, without its extension.
+        if (root == MESHES && !Readable(path))
+            path = hullhost::MeshFilePath(w, fname);
+        if (!Readable(path))
             return nullptr;
         w.openFiles.push_back({std::make_unique<LineFile>(LineFile::ReadLocal(path)), path, mode});
     } else {

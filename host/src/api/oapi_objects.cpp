@@ -75,7 +75,8 @@ VESSEL *oapiGetFocusInterface() {
 
 namespace {
 
-OBJHANDLE Create(const char *name, const char *classname, const VESSELSTATUS2 &st) {
+// Any status the world accepts: a VESSELSTATUS or a VESSELSTATUS2.
+template <class Status> OBJHANDLE Create(const char *name, const char *classname, const Status &st) {
     World &w = World::Current();
     if (!name || !classname || w.FindObject(name))
         return nullptr;
@@ -97,24 +98,8 @@ OBJHANDLE oapiCreateVesselEx(const char *name, const char *classname, const void
     return Create(name, classname, *st);
 }
 
-OBJHANDLE oapiCreateVessel(const char *name, const char *classname, const VESSELSTATUS &vs) {
-    VESSELSTATUS2 st{};
-    st.version = 2;
-    st.rbody = vs.rbody;
-    st.base = vs.base;
-    st.port = vs.port;
-    st.status = vs.status;
-    st.rpos = vs.rpos;
-    st.rvel = vs.rvel;
-    st.vrot = vs.vrot;
-    st.arot = vs.arot;
-    if (vs.status == 1) {
-        // A landed VESSELSTATUS carries longitude, latitude and heading in vdata[0].
-        st.surf_lng = vs.vdata[0].x;
-        st.surf_lat = vs.vdata[0].y;
-        st.surf_hdg = vs.vdata[0].z;
-    }
-    return Create(name, classname, st);
+OBJHANDLE oapiCreateVessel(const char *name, const char *classname, const VESSELSTATUS &status) {
+    return Create(name, classname, status);
 }
 
 bool oapiDeleteVessel(OBJHANDLE h, OBJHANDLE) {

@@ -10,18 +10,7 @@ using hullhost::Body;
 using hullhost::World;
 namespace physics = hullhost::physics;
 
-namespace {
-
-const Body *BodyOf(const World &world, OBJHANDLE h) {
-    for (const auto &b : world.bodies) {
-        if (b->Handle() == h) {
-            return b.get();
-        }
-    }
-    return nullptr;
-}
-
-} // namespace
+namespace {} // namespace
 
 OBJHANDLE VESSEL::GetElements(ELEMENTS &el, double &mjd_ref) const {
     const World &world = World::Current();
@@ -39,7 +28,7 @@ OBJHANDLE VESSEL::GetElements(ELEMENTS &el, double &mjd_ref) const {
 // everything else describes the orbit now.
 bool VESSEL::GetElements(OBJHANDLE hRef, ELEMENTS &el, ORBITPARAM *prm, double mjd_ref, int frame) const {
     const World &world = World::Current();
-    const Body *ref = hRef ? BodyOf(world, hRef) : physics::GravityRef(world, *vessel);
+    const Body *ref = hRef ? world.BodyFromHandle(hRef) : physics::GravityRef(world, *vessel);
     if (!ref) {
         return false;
     }

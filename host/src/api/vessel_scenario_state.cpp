@@ -28,15 +28,6 @@ using hullhost::World;
 
 namespace {
 
-const Body *BodyOf(const World &world, OBJHANDLE h) {
-    for (const auto &b : world.bodies) {
-        if (b->Handle() == h) {
-            return b.get();
-        }
-    }
-    return nullptr;
-}
-
 bool KeyIs(const char *line, const char *key, const char *&rest) {
     const size_t n = std::strlen(key);
     if (strncasecmp(line, key, n) != 0 || (line[n] != '\0' && line[n] != ' ' && line[n] != '\t')) {
@@ -78,7 +69,7 @@ void ReadElements(const World &world, const char *text, VESSELSTATUS2 &st) {
     el.theta *= RAD;
     el.omegab *= RAD;
     el.L *= RAD;
-    const Body *body = BodyOf(world, st.rbody);
+    const Body *body = world.BodyFromHandle(st.rbody);
     if (!body) {
         body = world.Earth();
         st.rbody = body ? const_cast<Body *>(body)->Handle() : nullptr;
@@ -142,7 +133,7 @@ void VESSEL::SaveDefaultState(FILEHANDLE scn) const {
     VESSELSTATUS2 st{};
     st.version = 2;
     hullhost::physics::GetStatus2(world, *vessel, st);
-    const Body *body = BodyOf(world, st.rbody);
+    const Body *body = world.BodyFromHandle(st.rbody);
     const std::string bodyName = body ? body->Name() : "Earth";
     oapiWriteScenario_string(scn, "STATUS", ((st.status == 1 ? "Landed " : "Orbiting ") + bodyName).c_str());
     if (st.status == 1) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "visual/visual.h"
+
 namespace hullhost {
 
 Vessel::Vessel(std::string name, std::string className, const Module *module)

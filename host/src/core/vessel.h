@@ -14,6 +14,7 @@ namespace hullhost {
 
 class Body;
 class Module;
+class Visual;
 
 struct AppliedForce {
     VECTOR3 force; // vessel frame [N]
@@ -69,6 +70,7 @@ class Vessel : public Object {
     std::vector<std::unique_ptr<Airfoil>> airfoils;
     std::vector<BEACONLIGHTSPEC *> beacons; // the module's records, kept by pointer
     std::vector<std::unique_ptr<SpotLight>> lights;
+    std::unique_ptr<Visual> visual; // see visual/visual_lifecycle.h
 
     // Forces added by the module for the current frame.
     std::vector<AppliedForce> forces;

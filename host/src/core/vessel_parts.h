@@ -13,6 +13,7 @@ namespace hullhost {
 
 class Vessel;
 class Mesh;
+struct Animation;
 
 struct Propellant {
     double maxMass = 0.0;
@@ -86,6 +87,7 @@ struct AnimationComponent {
     MGROUP_TRANSFORM *transform = nullptr; // kept by pointer, owned by the module
     AnimationComponent *parent = nullptr;
     std::vector<AnimationComponent *> children;
+    Animation *animation = nullptr; // the animation whose state drives it
     ANIMATIONCOMPONENT_HANDLE Handle() { return reinterpret_cast<ANIMATIONCOMPONENT_HANDLE>(this); }
 };
 

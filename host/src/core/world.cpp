@@ -7,6 +7,7 @@
 
 #include "line_file.h"
 #include "physics/flight_model.h"
+#include "visual/visual_lifecycle.h"
 
 namespace hullhost {
 
@@ -62,6 +63,13 @@ Object *World::FindObject(const std::string &name) const {
     if (Vessel *v = FindVessel(name))
         return v;
     return FindBody(name);
+}
+
+Body *World::BodyFromHandle(OBJHANDLE h) const {
+    for (auto &b : bodies)
+        if (b->Handle() == h)
+            return b.get();
+    return nullptr;
 }
 
 bool World::IsVessel(OBJHANDLE h) const {
@@ -127,6 +135,14 @@ Vessel &World::CreateVessel(const std::string &name, const std::string &classNam
     return v;
 }
 
+Vessel &World::CreateVessel(const std::string &name, const std::string &className,
+                            const VESSELSTATUS &state) {
+    Vessel &v = ConstructVessel(name, className);
+    physics::SetStatus(*this, v, state);
+    PostCreate(v);
+    return v;
+}
+
 Vessel &World::AddBareVessel(const std::string &name) {
     vessels_.push_back(std::make_unique<Vessel>(name, "", nullptr));
     Vessel &v = *vessels_.back();
@@ -139,6 +155,7 @@ void World::PostCreate(Vessel &v) {
         CallbackScope scope(*this);
         static_cast<VESSEL2 *>(v.iface)->clbkPostCreation();
     }
+    CreateVisual(*this, v);
     if (callbackDepth_ == 0)
         FlushDeletions();
 }
@@ -233,6 +250,7 @@ void World::DeleteNow(Vessel &v) {
                 break;
             }
     }
+    DestroyVisual(*this, v);
     if (v.iface) {
         CallbackScope scope(*this);
         v.GetModule()->Exit(v.iface);

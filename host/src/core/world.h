@@ -13,6 +13,8 @@
 #include "line_file.h"
 #include "module_registry.h"
 #include "vessel.h"
+#include "visual/mesh_cache.h"
+#include "visual/texture_registry.h"
 
 namespace hullhost {
 
@@ -74,6 +76,12 @@ class World {
     const std::vector<std::unique_ptr<Vessel>> &Vessels() const { return vessels_; }
     Vessel *FindVessel(const std::string &name) const;
     Object *FindObject(const std::string &name) const;
+    // The object behind a handle, or null when it names none that exists.
+    Object *ObjectFromHandle(OBJHANDLE h) const {
+        return IsObject(h) ? reinterpret_cast<Object *>(h) : nullptr;
+    }
+    Body *BodyFromHandle(OBJHANDLE h) const;
+    Vessel *VesselFromHandle(OBJHANDLE h) const { return IsVessel(h) ? ToVessel(h) : nullptr; }
     // True while `h` names a body or a vessel that still exists.
     bool IsObject(OBJHANDLE h) const;
     bool IsVessel(OBJHANDLE h) const;
@@ -85,6 +93,7 @@ class World {
     void LoadVesselState(Vessel &v, const std::vector<std::string> &lines);
     // A vessel made at run time: constructed, given its state, post-created.
     Vessel &CreateVessel(const std::string &name, const std::string &className, const VESSELSTATUS2 &state);
+    Vessel &CreateVessel(const std::string &name, const std::string &className, const VESSELSTATUS &state);
     void PostCreate(Vessel &v);
     // A vessel without a module (no iface), for tests and tools: the host's
     // physics alone moves it.
@@ -115,6 +124,8 @@ class World {
 
     ModuleRegistry modules;
     std::vector<std::unique_ptr<Bitmap>> bitmaps;
+    MeshCache meshCache;
+    TextureRegistry textures;
     std::vector<OpenFile> openFiles;
     // When set, srand(seed) runs right after each vessel's constructor, so that
     // a run repeats exactly.

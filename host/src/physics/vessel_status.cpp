@@ -21,11 +21,10 @@ const Body *ReferenceOf(const World &world, const Vessel &v) {
     return world.bodies.empty() ? nullptr : DominantBody(world, v.pos);
 }
 
+// The body a status names; the Earth, or the first body, when it names none.
 Body *BodyOf(World &world, OBJHANDLE h) {
-    for (auto &b : world.bodies) {
-        if (b->Handle() == h) {
-            return b.get();
-        }
+    if (Body *b = world.BodyFromHandle(h)) {
+        return b;
     }
     return world.Earth() ? world.Earth() : (world.bodies.empty() ? nullptr : world.bodies.front().get());
 }

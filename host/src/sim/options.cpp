@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -15,7 +16,7 @@ namespace {
 // The numbers of the command line as written, checked after parsing so that
 // every bad value gets the same kind of message.
 struct NumberTexts {
-    std::string seconds, dt, accel, seed;
+    std::string seconds, dt, accel, seed, interval;
 };
 
 double ParseNumber(const std::string &option, const std::string &text, bool allowZero) {
@@ -59,6 +60,16 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
         ->type_name("FILE");
     run.add_option("--log", o.logPath, "Write the host's log to FILE (default: no log file)")
         ->type_name("FILE");
+    run.add_option("--telemetry", o.telemetryPath, "Write telemetry of the focus vessel to FILE as CSV")
+        ->type_name("FILE");
+    run.add_option("--track", o.tracks, "Record vessel NAME instead of the focus; repeatable")
+        ->type_name("NAME")
+        ->allow_extra_args(false);
+    run.add_option("--telemetry-interval", n.interval, "Simulation time between telemetry samples")
+        ->type_name("SECONDS")
+        ->default_str("1");
+    run.add_option("--plot", o.plotPath, "Draw altitude, apsides and mass over time to FILE as SVG")
+        ->type_name("FILE");
 }
 
 void CheckNumbers(const NumberTexts &n, RunOptions &o) {
@@ -75,6 +86,31 @@ void CheckNumbers(const NumberTexts &n, RunOptions &o) {
     if (FrameCount(o.seconds, o.dt * o.accel) > kMaxFrames)
         throw UsageError("--for " + n.seconds + " takes more than " +
                          std::to_string(static_cast<long>(kMaxFrames)) + " frames; raise --dt or --accel");
+}
+
+// The telemetry options: --track and --telemetry-interval only mean something
+// with an output, and the samples must fit in memory.
+void CheckTelemetry(const NumberTexts &n, RunOptions &o) {
+    if (!n.interval.empty())
+        o.telemetryInterval = ParseNumber("--telemetry-interval", n.interval, false);
+    const bool output = !o.telemetryPath.empty() || !o.plotPath.empty();
+    if (!output && !o.tracks.empty())
+        throw UsageError("--track needs --telemetry or --plot");
+    if (!output && !n.interval.empty())
+        throw UsageError("--telemetry-interval needs --telemetry or --plot");
+    std::vector<std::string> tracks;
+    for (const std::string &name : o.tracks) {
+        if (name.empty())
+            throw UsageError("--track needs a vessel name");
+        if (std::find(tracks.begin(), tracks.end(), name) == tracks.end())
+            tracks.push_back(name);
+    }
+    o.tracks = std::move(tracks);
+    const double samples = std::min(FrameCount(o.seconds, o.dt * o.accel), o.seconds / o.telemetryInterval);
+    if (output && samples > kMaxSamples)
+        throw UsageError("--telemetry-interval " + (n.interval.empty() ? "1" : n.interval) +
+                         " takes more than " + std::to_string(static_cast<long>(kMaxSamples)) +
+                         " samples over --for " + n.seconds + "; raise it");
 }
 
 // CLI11's message as one line.
@@ -100,6 +136,8 @@ Command ParseCommandLine(const std::vector<std::string> &args, const std::string
     AddRunOptions(*run, cmd.run, numbers);
     run->footer("Key script: one line each \"TIME KEY [SECONDS]\", such as \"2.5 Ctrl+M\" (one press) or\n"
                 "\"10 KP_PLUS 3\" (held 3 s); ';' starts a comment.\n"
+                "Telemetry: a row per vessel and sample: time, vessel, altitude, speed, apogee and\n"
+                "perigee altitude, inclination, mass, main thrust level; written at the end of the run.\n"
                 "Exit codes: 0 done, 1 run error (missing file, unknown class, module failure),\n"
                 "2 usage error (bad option, bad key script).");
 
@@ -125,6 +163,7 @@ Command ParseCommandLine(const std::vector<std::string> &args, const std::string
         throw UsageError(OneLine(e.what()));
     }
     CheckNumbers(numbers, cmd.run);
+    CheckTelemetry(numbers, cmd.run);
     return cmd;
 }
 

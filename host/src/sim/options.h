@@ -14,14 +14,21 @@ struct RunOptions {
     double dt = 0.02;     // frame length [real s]
     double accel = 1.0;   // time acceleration at the start
     std::optional<unsigned> seed;
-    std::string savePath;  // empty: none
-    std::string statePath; // empty: none
-    std::string keysPath;  // empty: none
-    std::string logPath;   // empty: no log file
+    std::string savePath;            // empty: none
+    std::string statePath;           // empty: none
+    std::string keysPath;            // empty: none
+    std::string logPath;             // empty: no log file
+    std::string telemetryPath;       // CSV of the tracked vessels; empty: none
+    std::string plotPath;            // SVG chart of the tracked vessels; empty: none
+    std::vector<std::string> tracks; // vessels to record; none: the focus vessel
+    double telemetryInterval = 1.0;  // simulation time between samples [s]
 };
 
 // The most frames that one run may take, so that no option makes it endless.
 constexpr double kMaxFrames = 1e8;
+// The most telemetry samples of one vessel, so that the CSV and the chart,
+// kept in memory until the end, stay within bounds.
+constexpr double kMaxSamples = 1e7;
 
 struct Command {
     bool help = false; // print helpText and end

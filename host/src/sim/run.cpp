@@ -10,6 +10,7 @@
 #include "frame_clock.h"
 #include "key_player.h"
 #include "progress.h"
+#include "run_telemetry.h"
 #include "scenario/atomic_write.h"
 #include "scenario/scenario_world.h"
 #include "state_json.h"
@@ -55,8 +56,10 @@ class WorkingDirectory {
     fs::path old_;
 };
 
-// Runs the frames of a world for `seconds` of simulation time.
-void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys) {
+// Runs the frames of a world for `seconds` of simulation time, sampling the
+// telemetry (if any) after each.
+void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys,
+               RunTelemetry *telemetry) {
     KeyPlayer player(std::move(keys));
     Progress progress(stderr, options.seconds);
     double frames = 0;
@@ -73,6 +76,8 @@ void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> k
         double next = options.dt * world.accel;
         player.AfterFrame(world.simt + next, next, world.keyState, world.bufferedKeys);
         progress.Update(world.simt);
+        if (telemetry)
+            telemetry->Sample(world);
     }
 }
 
@@ -104,6 +109,8 @@ void RunScenario(const RunOptions &options) {
     const std::string savePath = OutputPath(options.savePath, "--save");
     const std::string statePath = OutputPath(options.statePath, "--state");
     const std::string logPath = OutputPath(options.logPath, "--log");
+    const std::string telemetryPath = OutputPath(options.telemetryPath, "--telemetry");
+    const std::string plotPath = OutputPath(options.plotPath, "--plot");
     std::vector<KeyAction> keys;
     if (!options.keysPath.empty())
         keys = ReadKeyScript(fs::absolute(options.keysPath).string());
@@ -119,7 +126,10 @@ void RunScenario(const RunOptions &options) {
         world.logPath = logPath;
     }
     LoadScenario(world, scenario);
-    RunFrames(world, options, std::move(keys));
+    std::optional<RunTelemetry> telemetry;
+    if (!telemetryPath.empty() || !plotPath.empty())
+        telemetry.emplace(telemetryPath, plotPath, options.tracks, options.telemetryInterval, world);
+    RunFrames(world, options, std::move(keys), telemetry ? &*telemetry : nullptr);
 
     std::optional<std::string> stateText, scenarioText;
     if (!statePath.empty())
@@ -131,6 +141,8 @@ void RunScenario(const RunOptions &options) {
         WriteFileAtomically(statePath, *stateText);
     if (scenarioText)
         WriteFileAtomically(savePath, *scenarioText);
+    if (telemetry)
+        telemetry->Write();
 }
 
 } // namespace hullhost::sim

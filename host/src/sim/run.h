@@ -1,5 +1,6 @@
 // hullsim's run command: load a scenario into a world, run its frames with
-// the key script, and write the scenario and the state at the end.
+// the key script, and write the scenario, the state and the telemetry at the
+// end.
 #pragma once
 
 #include <string>
@@ -10,8 +11,8 @@ namespace hullhost::sim {
 
 // Runs a scenario. The working directory is the root while the world exists
 // and is restored afterwards. Throws UsageError for a bad key script and
-// std::runtime_error for every other failure; --save and --state are written
-// only when the whole run succeeded.
+// std::runtime_error for every other failure; --save, --state, --telemetry
+// and --plot are written only when the whole run succeeded.
 void RunScenario(const RunOptions &options);
 
 // The scenario file that `name` means: the path as given if it is a file,

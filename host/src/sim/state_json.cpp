@@ -4,6 +4,8 @@
 #include <cstring>
 #include <iterator>
 
+#include "state_json_visuals.h"
+
 namespace hullhost::sim {
 
 using json = nlohmann::ordered_json;
@@ -81,12 +83,14 @@ json ThrusterGroups(const Vessel &v) {
 
 // Every mesh slot, so that list positions are mesh indices; a deleted slot
 // says so.
-json Meshes(const Vessel &v) {
+json Meshes(const World &world, const Vessel &v) {
     json list = json::array();
-    for (const auto &m : v.meshes) {
+    for (size_t i = 0; i < v.meshes.size(); ++i) {
+        const MeshSlot &m = v.meshes[i];
         json mesh = {{"file", m.file}, {"offset", Vec(m.offset)}, {"visibility", m.visibility}};
         if (m.deleted)
             mesh["deleted"] = true;
+        mesh.update(MeshDetails(world, v, i));
         list.push_back(mesh);
     }
     return list;
@@ -122,9 +126,15 @@ json VesselState(const World &world, const Vessel &v) {
     out["propellants"] = Propellants(v);
     out["thrusters"] = Thrusters(v);
     out["thrusterGroups"] = ThrusterGroups(v);
-    out["meshes"] = Meshes(v);
+    out["meshes"] = Meshes(world, v);
     out["docks"] = Docks(v);
     out["attachments"] = Attachments(v);
+    out["visual"] = v.visual != nullptr;
+    out["exhausts"] = Exhausts(world, v);
+    out["particleStreams"] = ParticleStreams(world, v);
+    out["beacons"] = Beacons(v);
+    out["animations"] = Animations(v);
+    out["lights"] = Lights(v);
     return out;
 }
 

@@ -11,8 +11,8 @@ namespace hullhost::sim {
 // {"simt", "mjd", "focus", "annotations", "debugString", "vessels": [...]}
 nlohmann::ordered_json WorldState(const World &world);
 // One vessel: mass and shape, flight state (rpos and rvel relative to the
-// Earth, global frame), propellants, thrusters, groups, meshes, docks and
-// attachments.
+// Earth, global frame), propellants, thrusters, groups, meshes, docks,
+// attachments, and the visual parts of state_json_visuals.h.
 nlohmann::ordered_json VesselState(const World &world, const Vessel &v);
 
 } // namespace hullhost::sim

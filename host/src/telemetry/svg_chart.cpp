@@ -41,6 +41,34 @@ struct Plot {
     }
 };
 
+// Text with XML's special characters written as entities, for element text
+// and attribute values alike.
+std::string EscapeXml(const std::string &text) {
+    std::string out;
+    for (char c : text) {
+        switch (c) {
+        case '&':
+            out += "&amp;";
+            break;
+        case '<':
+            out += "&lt;";
+            break;
+        case '>':
+            out += "&gt;";
+            break;
+        case '"':
+            out += "&quot;";
+            break;
+        case '\'':
+            out += "&apos;";
+            break;
+        default: // control characters have no place in XML, not even as entities
+            out += static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r' ? '?' : c;
+        }
+    }
+    return out;
+}
+
 std::string Number(double v) {
     char text[32];
     std::snprintf(text, sizeof text, "%.4g", v);
@@ -56,7 +84,10 @@ void Polyline(std::ostream &out, const Plot &p, const TelemetrySeries &s, const 
     }
     out << " points=\"";
     for (const TelemetrySample &t : s.samples) {
-        out << Number(p.X(t.time)) << ',' << Number(p.Y(value(t), r)) << ' ';
+        const double x = p.X(t.time), y = p.Y(value(t), r);
+        if (std::isfinite(x) && std::isfinite(y)) { // "nan" would spoil the whole line
+            out << Number(x) << ',' << Number(y) << ' ';
+        }
     }
     out << "\"/>\n";
 }
@@ -121,7 +152,8 @@ void WriteSvgChart(std::ostream &out, const std::vector<TelemetrySeries> &series
         Polyline(
             out, p, s, p.mass, [](const TelemetrySample &t) { return t.mass; }, colour, "1 1");
         out << "</g>\n<text x=\"" << kLeft + 10 << "\" y=\"" << kTop + 16 + 16 * index << "\" fill=\""
-            << colour << "\" font-family=\"sans-serif\" font-size=\"13\">" << s.vessel << "</text>\n";
+            << colour << "\" font-family=\"sans-serif\" font-size=\"13\">" << EscapeXml(s.vessel)
+            << "</text>\n";
         ++index;
     }
     out << "</svg>\n";

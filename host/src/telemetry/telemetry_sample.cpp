@@ -33,12 +33,34 @@ std::string CsvHeader() {
            "main_thrust_level";
 }
 
-std::string CsvRow(const std::string &vessel, const TelemetrySample &s) {
-    char text[320];
-    std::snprintf(text, sizeof text, "%.3f,%s,%.1f,%.3f,%.1f,%.1f,%.4f,%.3f,%.3f", s.time, vessel.c_str(),
-                  s.altitude, s.speed, s.apogeeAltitude, s.perigeeAltitude, s.inclination, s.mass,
-                  s.mainLevel);
+namespace {
+
+// A CSV field: quoted, with its quotes doubled, if it holds a comma, a quote
+// or a line end.
+std::string CsvField(const std::string &text) {
+    if (text.find_first_of(",\"\r\n") == std::string::npos) {
+        return text;
+    }
+    std::string quoted = "\"";
+    for (char c : text) {
+        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+    }
+    return quoted + '"';
+}
+
+// A number with `decimals` places after the point, however large.
+std::string Fixed(double value, int decimals) {
+    std::string text(std::snprintf(nullptr, 0, "%.*f", decimals, value), '\0');
+    std::snprintf(text.data(), text.size() + 1, "%.*f", decimals, value);
     return text;
+}
+
+} // namespace
+
+std::string CsvRow(const std::string &vessel, const TelemetrySample &s) {
+    return Fixed(s.time, 3) + ',' + CsvField(vessel) + ',' + Fixed(s.altitude, 1) + ',' + Fixed(s.speed, 3) +
+           ',' + Fixed(s.apogeeAltitude, 1) + ',' + Fixed(s.perigeeAltitude, 1) + ',' +
+           Fixed(s.inclination, 4) + ',' + Fixed(s.mass, 3) + ',' + Fixed(s.mainLevel, 3);
 }
 
 } // namespace hullhost::telemetry

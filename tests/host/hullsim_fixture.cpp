@@ -1,0 +1,51 @@
+#include "hullsim_fixture.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <sys/wait.h>
+
+namespace hosttest {
+
+namespace {
+
+std::string Quote(const std::string &s) {
+    std::string q = "'";
+    for (char c : s)
+        q += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return q + "'";
+}
+
+} // namespace
+
+HullsimFixture::HullsimFixture() {
+    WriteText(dir / "root/Config/Vessels/Test/Probe.cfg", "Module = Test\\Probe\n");
+    std::filesystem::create_directories(dir / "root/Modules/Test");
+    std::filesystem::copy_file(PROBE_MODULE, dir / "root/Modules/Test/Probe.dll");
+    WriteText(dir / "root/Scenarios/probe.scn", "BEGIN_ENVIRONMENT\n  Date MJD 60000\nEND_ENVIRONMENT\n"
+                                                "BEGIN_SHIPS\nP:Test\\Probe\n  PROBE_X 1\nEND\nEND_SHIPS\n");
+}
+
+Result HullsimFixture::Run(const std::vector<std::string> &args) const {
+    std::string cmd = Quote(HULLSIM_EXE);
+    for (const auto &a : args)
+        cmd += " " + Quote(a);
+    cmd += " >" + Quote(dir / "out.txt") + " 2>" + Quote(dir / "err.txt") + " </dev/null";
+    Result r;
+    int status = std::system(cmd.c_str());
+    r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    r.out = ReadText(dir / "out.txt");
+    r.err = ReadText(dir / "err.txt");
+    return r;
+}
+
+void HullsimFixture::ExpectError(const std::vector<std::string> &args, int code,
+                                 const std::string &text) const {
+    Result r = Run(args);
+    EXPECT_EQ(r.code, code) << r.err;
+    EXPECT_EQ(r.err.rfind("hullsim: ", 0), 0u) << r.err;
+    EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+    EXPECT_NE(r.err.find(text), std::string::npos) << r.err;
+}
+
+} // namespace hosttest

@@ -1,0 +1,36 @@
+// A fixture that runs the hullsim program as users do, in a fresh folder with
+// a host root that holds the probe class and its module.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "temp_dir.h"
+
+namespace hosttest {
+
+struct Result {
+    int code = -1;
+    std::string out, err;
+};
+
+class HullsimFixture : public ::testing::Test {
+  protected:
+    // Root()/Scenarios/probe.scn holds one probe, P.
+    HullsimFixture();
+
+    // Runs hullsim with `args`, its standard output and error caught in
+    // out.txt and err.txt of the folder.
+    Result Run(const std::vector<std::string> &args) const;
+
+    // Runs and expects a failure with `code` and one error line holding `text`.
+    void ExpectError(const std::vector<std::string> &args, int code, const std::string &text) const;
+
+    std::string Root() const { return dir / "root"; }
+
+    TempDir dir;
+};
+
+} // namespace hosttest

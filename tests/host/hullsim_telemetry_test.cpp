@@ -1,0 +1,128 @@
+// hullsim run --telemetry, --track and --plot: the CSV and the chart that a
+// run writes, with probes in orbit loaded from their module file.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "hullsim_fixture.h"
+#include "xml_check.h"
+
+using hosttest::ReadText;
+using hosttest::Result;
+using hosttest::WriteText;
+
+namespace {
+
+// Two probes in a 200 km circular orbit of the Earth in the ecliptic plane:
+// P (the focus) burning prograde at full thrust, Q&A coasting across from it.
+// A probe has 1200 kg empty and 250 kg of propellant, 5000 N at 3000 m/s.
+class HullsimTelemetryTest : public hosttest::HullsimFixture {
+  protected:
+    HullsimTelemetryTest() {
+        WriteText(Root() + "/Scenarios/orbit.scn",
+                  "BEGIN_ENVIRONMENT\n  Date MJD 60000\nEND_ENVIRONMENT\n"
+                  "BEGIN_SHIPS\n"
+                  "P:Test\\Probe\n  STATUS Orbiting Earth\n"
+                  "  RPOS 6571010 0 0\n  RVEL 0 0 7788.48\n  PROBE_MAIN 1\nEND\n"
+                  "Q&A:Test\\Probe\n  STATUS Orbiting Earth\n"
+                  "  RPOS -6571010 0 0\n  RVEL 0 0 -7788.48\nEND\n"
+                  "END_SHIPS\n");
+    }
+};
+
+using Row = std::vector<std::string>;
+
+std::vector<Row> ReadCsv(const std::string &path, std::string &header) {
+    std::istringstream in(ReadText(path));
+    std::getline(in, header);
+    std::vector<Row> rows;
+    for (std::string line; std::getline(in, line);) {
+        Row row;
+        std::istringstream fields(line);
+        for (std::string field; std::getline(fields, field, ',');)
+            row.push_back(field);
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+double Number(const Row &row, size_t column) { return std::stod(row.at(column)); }
+
+enum Column { kTime, kVessel, kAltitude, kSpeed, kApogee, kPerigee, kInclination, kMass, kMainLevel };
+
+TEST_F(HullsimTelemetryTest, CsvOfTheFocusVesselEverySecond) {
+    const std::string csv = dir / "t.csv";
+    Result r = Run({"run", "orbit", "--root", Root(), "--for", "3", "--dt", "0.1", "--telemetry", csv});
+    ASSERT_EQ(r.code, 0) << r.err;
+    std::string header;
+    const std::vector<Row> rows = ReadCsv(csv, header);
+    EXPECT_EQ(header, "time_s,vessel,altitude_m,speed_m_s,apogee_altitude_m,perigee_altitude_m,"
+                      "inclination_deg,mass_kg,main_thrust_level");
+    // At the start and at each whole second, though ten frames of 0.1 s add
+    // up to a little less than one.
+    ASSERT_EQ(rows.size(), 4u) << ReadText(csv);
+    for (size_t k = 0; k < rows.size(); ++k) {
+        const Row &row = rows[k];
+        ASSERT_EQ(row.size(), 9u);
+        EXPECT_EQ(row[kTime], std::to_string(k) + ".000");
+        EXPECT_EQ(row[kVessel], "P");
+        EXPECT_NEAR(Number(row, kMass), 1450.0 - 5000.0 / 3000.0 * k, 0.01) << k;
+        EXPECT_EQ(row[kMainLevel], "1.000");
+        EXPECT_NEAR(Number(row, kInclination), 23.44, 0.01); // the ecliptic to the equator
+        EXPECT_NEAR(Number(row, kPerigee), 200e3, 1e3);
+    }
+    EXPECT_NEAR(Number(rows[0], kAltitude), 200e3, 1.0);
+    EXPECT_NEAR(Number(rows[0], kSpeed), 7788.48, 0.01);
+    // Three seconds of thrust prograde: about 10 m/s more, the apogee far up.
+    EXPECT_NEAR(Number(rows[3], kSpeed) - Number(rows[0], kSpeed), 10.3, 0.3);
+    EXPECT_GT(Number(rows[3], kApogee), Number(rows[0], kApogee) + 20e3);
+}
+
+TEST_F(HullsimTelemetryTest, TrackedVesselsInTheirOrderAndTheirChart) {
+    const std::string csv = dir / "t.csv", svg = dir / "chart.svg";
+    Result r = Run({"run", "orbit", "--root", Root(), "--for", "1", "--dt", "0.25", "--track", "Q&A",
+                    "--track", "P", "--telemetry-interval", "0.5", "--telemetry", csv, "--plot", svg});
+    ASSERT_EQ(r.code, 0) << r.err;
+    std::string header;
+    const std::vector<Row> rows = ReadCsv(csv, header);
+    ASSERT_EQ(rows.size(), 6u) << ReadText(csv);
+    for (size_t k = 0; k < rows.size(); ++k) {
+        EXPECT_EQ(rows[k][kTime], k < 2 ? "0.000" : k < 4 ? "0.500" : "1.000");
+        EXPECT_EQ(rows[k][kVessel], k % 2 == 0 ? "Q&A" : "P");
+        EXPECT_EQ(rows[k][kMainLevel], k % 2 == 0 ? "0.000" : "1.000");
+    }
+    EXPECT_EQ(rows[4][kMass], "1450.000"); // Q&A coasts
+
+    const std::vector<hosttest::XmlElement> chart = hosttest::ParseXml(ReadText(svg));
+    ASSERT_EQ(chart.front().name, "svg");
+    int lines = 0;
+    std::vector<std::string> texts;
+    for (const auto &e : chart) {
+        if (e.name == "polyline") {
+            ++lines;
+            const std::string &points = e.attributes.at("points");
+            EXPECT_EQ(std::count(points.begin(), points.end(), ','), 3) << points; // one per sample
+        }
+        if (e.name == "text")
+            texts.push_back(e.text);
+    }
+    EXPECT_EQ(lines, 8); // altitude, apogee, perigee and mass of each vessel
+    EXPECT_NE(std::find(texts.begin(), texts.end(), "Q&A"), texts.end());
+    EXPECT_NE(std::find(texts.begin(), texts.end(), "P"), texts.end());
+}
+
+TEST_F(HullsimTelemetryTest, BadTelemetryOptionsWriteNothing) {
+    const std::string csv = dir / "t.csv", svg = dir / "chart.svg", save = dir / "s.scn";
+    ExpectError({"run", "orbit", "--root", Root(), "--telemetry", csv, "--telemetry-interval", "0"}, 2,
+                "--telemetry-interval needs a number above 0, not '0'");
+    ExpectError({"run", "orbit", "--root", Root(), "--track", "P"}, 2, "--track needs --telemetry or --plot");
+    ExpectError({"run", "orbit", "--root", Root(), "--plot", dir / "nofolder/chart.svg"}, 1, "nofolder");
+    // The vessel is looked for once the scenario is loaded, before any frame.
+    ExpectError({"run", "orbit", "--root", Root(), "--for", "1", "--track", "P", "--track", "Nobody",
+                 "--telemetry", csv, "--plot", svg, "--save", save},
+                1, "--track Nobody: the scenario has no vessel of that name");
+    EXPECT_EQ(hosttest::FolderEntries(dir.Path().string()),
+              (std::vector<std::string>{"err.txt", "out.txt", "root"}));
+}
+
+} // namespace
