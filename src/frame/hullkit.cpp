@@ -85,4 +85,26 @@ void HULLKIT::InitDefaults() {
     EarthHandle = oapiGetGbodyByName("Earth");
     MoonHandle = oapiGetGbodyByName("Moon");
     HudPen = nullptr;
+
+    PMI = RotDrag = _V(0, 0, 0);
+    for (VECTOR3 &point : TouchdownPts)
+        point = _V(0, 0, 0);
+    TouchdownPtsFromScenario = false;
+    ToParentId.clear();
+    ToParentAttachment = nullptr;
+    ToParentPos = ToParentDir = ToParentRot = _V(0, 0, 0);
+    ConfigToParentPos = ConfigToParentDir = ConfigToParentRot = _V(0, 0, 0);
+    PitchProfile.clear();
+    AttControlsName.clear();
+    AttControls = AttitudeControlBlock{};
+    SelfDestructor = NoFocus = Hidden = NoAtmosphereWatch = hideShadows = false;
+    HaveAutopilot = AutopilotActive = AutopilotConfigured = false;
+    CanAutoSwitchFocus = AutoSwitchFocusConfigured = false;
+    WreckVesselName.clear();
+    WreckSingle.clear();
+    ReentryShinePos = FirePos = FireDir = CgOffset = YawOrbital = _V(0, 0, 0);
+    FailureList.clear();
+    TimerFormat.clear();
+    SaveOrbit = CanBeCleanedUp = false;
+    ContrailLevel = HeatContrailLevel = DustLevel = 0.0;
 }

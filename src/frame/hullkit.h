@@ -9,7 +9,12 @@
 
 #include "Orbitersdk.h"
 #include "config/config_table.h"
+#include "config/pitch_profile.h"
+#include "control/attitude_controls.h"
+#include "environment/failure_entry.h"
 #include "frame/vessel_call.h"
+#include "resources/mesh_changes.h"
+#include "resources/resource_tables.h"
 
 struct ANIM_CTRL_REC;
 
@@ -187,9 +192,90 @@ class HULLKIT : public VESSEL3 {
     void LocateAndReadConfig();
     // A plain key of the merged configuration; empty when not given.
     const std::string &Cfg(const std::string &key) { return cfgMerged.Get(key); }
+    // The plain keys of the vessel, in their order of reading; each group
+    // makes its host calls at once.
+    void ReadPlainKeys();
+    void ReadPhysicsKeys();
+    void ReadGeometryKeys();
+    void ReadToParentKey();
+    void ReadReentryKey();
+    void ReadNavmodesKey();
+    void ReadPitchProfile();
+    void ReadAttitudeControls(const std::string &key, AttitudeControlBlock &target);
+    void ReadFlagKeys();
+    void ReadDockKeys();
+    void ReadPlotColorKey();
+    void ReadOtherKeys();
+    void ReadFailureList(const std::string &value);
+    void ReadCrashData();
+    // Stores and applies three touchdown points; two equal points put the
+    // stored ones back.
+    void SetTouchdownPts(const VECTOR3 &p1, const VECTOR3 &p2, const VECTOR3 &p3);
 
     // --- Scenario ----------------------------------------------------------------
     void FirstPass(void *status);
+    // RESOURCE lines of the scenario reach their table; RES_MODS lines are kept
+    // as the text of their table.
+    void ReadResourceLines();
+    void ReadResModsLines();
+
+    // --- Resource tables -----------------------------------------------------------
+    // The tables read the configuration, in their order of loading.
+    void LoadResourceTables();
+    // The default records, the scenario's resource lines, then every record
+    // made in the host.
+    void BuildResources();
+    void AddDefaultResources();
+    void CreateResourceTables();
+    // The handle of the tank "Main", or null.
+    void FindMainTank();
+    // Position of the group `label` among the labelled groups of a mesh's file;
+    // -1 if the label isn't there or the file can't be read.
+    int32_t ResolveGroupLabel(const std::string &meshName, const std::string &label);
+    // The vessel's link to the sound library, between the sounds and the textures.
+    void ConnectVesselSound();
+    // A sound of the table heard from this vessel: mode 0 once, 1 in a loop, 3 stop.
+    void PlayVesselSound(int wave, int mode, int volume);
+
+    // --- Animations and their controllers ---------------------------------------
+    // Appends a component's groups to the group store and points the record at
+    // them; the single group -1 makes a component that moves no group.
+    void StoreAnimGroups(ANIM_REC *record);
+    // The host component of the named animation record, or null.
+    ANIMATIONCOMPONENT_HANDLE FindAnimComponent(const std::string &name);
+    // One time step of a controller: speed, end stops or wrap, target, host state.
+    void StepController(ANIM_CTRL_REC *controller);
+    // A key press for the controllers' keys; 1 if a controller took it.
+    int AnimKeyEvent(DWORD key, char *kstate);
+    // Controllers that move only while their key is held.
+    void DriveHeldKeys(char *kstate);
+    // Drive a controller to a state, or in a direction; `immediate` steps it at
+    // once and from then on keeps H_ANIM off it.
+    void SetControllerTarget(ANIM_CTRL_REC *controller, double value, bool immediate);
+    void SetControllerDirection(ANIM_CTRL_REC *controller, int32_t direction, bool immediate);
+    // The contrail, hot wake and dust streams, each on its level member.
+    void AddLevelStreams();
+
+    // --- Meshes, textures and the visual -----------------------------------------
+    // Puts a mesh record's mesh into the host, if its load state (or `force`)
+    // asks for it, and sets its visibility; `extPass` makes it EXTPASS.
+    void LoadMesh(MESH_REC *record, bool force, bool extPass);
+    void LoadMeshByName(const std::string &name, bool force, bool extPass);
+    void LoadMeshByName(const char *name, bool force, bool extPass);
+    // Visibility of a mesh by record name: never, always, or a host mode.
+    void HideMesh(const std::string &name);
+    void ShowMesh(const std::string &name);
+    void SetMeshVis(const std::string &name, int32_t mode);
+    // Replaces a texture of a mesh and remembers it for every visual; false if
+    // the mesh or the texture record doesn't exist. `now` applies it at once.
+    bool SetMeshTexture(const std::string &mesh, int32_t index, const std::string &texture, bool now);
+    void ApplyMeshTexture(const std::string &mesh, int32_t index, const std::string &texture);
+    // Hides or shows one group of a mesh in the visual.
+    void SetGroupVis(const std::string &mesh, int32_t group, bool hidden);
+    // SetGroupVis, and remembers the group while its state differs from `defaultHidden`.
+    void SetGroupVisSaved(const std::string &mesh, int32_t group, bool hidden, bool defaultHidden);
+    // Marks every group of the meshes in the visual as casting no shadow.
+    void SuppressShadows();
 
     // --- Members, in the order of the object -----------------------------------
     char HullkitMarker;
@@ -206,6 +292,47 @@ class HULLKIT : public VESSEL3 {
     std::vector<VECTOR3> vectorPool;
     std::vector<PARTICLESTREAMSPEC> particlePool;
     std::vector<std::vector<int>> intListPool;
+
+    // The resource tables, in their order of loading.
+    HkResources<PARTICLE_REC> ParticleTable;
+    HkResources<TEXTURE_REC> TextureTable;
+    HkResources<BEACON_REC> BeaconTable;
+    HkResources<TANK_REC> TankTable;
+    HkResources<THRUSTER_REC> ThrusterTable;
+    HkResources<THRUSTERGROUP_REC> ThrusterGroupTable;
+    HkResources<SOUND_REC> SoundTable;
+    HkResources<MESH_REC> MeshTable;
+    HkResources<MATERIAL_REC> MaterialTable;
+    HkResources<ANIM_REC> AnimTable;
+    HkResources<ANIM_CTRL_REC> AnimCtrlTable;
+    HkResources<CAMERA_REC> CameraTable;
+    HkResources<WRECK_REC> WreckTable;
+    HkResources<CHILD_REC> ChildTable;
+    HkResources<SEPARATION_REC> SeparationTable;
+    HkResources<SPOTLIGHTSET_REC> SpotlightSetTable;
+    HkResources<AERO_REC> AeroTable;
+
+    // Every created thruster in order of creation, and the standard groups.
+    std::vector<THRUSTER_HANDLE> thrusterHandles;
+    // The mesh groups of all animation components; the host keeps pointers into it.
+    static constexpr int32_t kAnimGroupCapacity = 2000;
+    uint32_t AnimGroupStore[kAnimGroupCapacity] = {};
+    int32_t AnimGroupCount = 0;
+    THGROUP_HANDLE groupMain = nullptr, groupPitchDown = nullptr, groupPitchUp = nullptr,
+                   groupYawLeft = nullptr, groupYawRight = nullptr, groupRollLeft = nullptr,
+                   groupRollRight = nullptr, groupFwd = nullptr, groupBack = nullptr, groupDown = nullptr,
+                   groupUp = nullptr, groupLeft = nullptr, groupRight = nullptr;
+    // The tank "Main", null without one.
+    PROPELLANT_HANDLE MainTank = nullptr;
+    // Name of the camera record in use; the first camera once the tables exist.
+    std::string CurrentCamera;
+    // The host's visual of the vessel, null while there is none.
+    VISHANDLE visual = nullptr;
+    // Replaced textures and hidden groups, applied to each new visual.
+    std::vector<MeshTextureEntry> meshTextures;
+    std::vector<MeshGroupVisEntry> meshGroupVis;
+    // Set when a material record of that kind is created.
+    bool HasGlowMaterials = false, HasAlphaMaterials = false;
 
     double SimTime, SimStep, SysStep;
 
@@ -245,8 +372,37 @@ class HULLKIT : public VESSEL3 {
     VECTOR3 ImuYawReference, ImuPitchReference;
     OBJHANDLE EarthHandle, MoonHandle;
     oapi::Pen *HudPen;
+
+    // Plain keys of the vessel: what they set beyond the first values above.
+    VECTOR3 PMI, RotDrag;
+    VECTOR3 TouchdownPts[3];
+    bool TouchdownPtsFromScenario;
+    std::string ToParentId;
+    ATTACHMENTHANDLE ToParentAttachment;
+    VECTOR3 ToParentPos, ToParentDir, ToParentRot;
+    VECTOR3 ConfigToParentPos, ConfigToParentDir, ConfigToParentRot;
+    std::vector<PitchProfileEntry> PitchProfile;
+    std::string AttControlsName;
+    AttitudeControlBlock AttControls;
+    bool SelfDestructor, NoFocus, Hidden, NoAtmosphereWatch, hideShadows;
+    bool HaveAutopilot, AutopilotActive, AutopilotConfigured;
+    bool CanAutoSwitchFocus, AutoSwitchFocusConfigured;
+    std::string WreckVesselName, WreckSingle;
+    VECTOR3 ReentryShinePos;
+    VECTOR3 FirePos, FireDir;
+    std::vector<FailureEntry> FailureList;
+    VECTOR3 CgOffset;
+    std::string TimerFormat;
+    VECTOR3 YawOrbital;
+    bool SaveOrbit, CanBeCleanedUp;
+
+    // Levels of the contrail, hot wake and dust streams. The host reads them
+    // through the pointers it was given, so they stay members of the vessel.
+    double ContrailLevel, HeatContrailLevel, DustLevel;
 };
 
 // The marker sits directly behind the host's part of the object, where any
 // framework vessel can be recognised through its VESSEL interface.
 bool IsHullkit(VESSEL *vessel);
+
+#include "resources/hk_resources_impl.h"

@@ -39,6 +39,9 @@ void HULLKIT::LoadConfiguration() {
     ResolveSubtype();
     LocateAndReadConfig();
     MergeInto(cfgMerged, cfgVariant, cfgClass, cfgCommon);
+    LoadResourceTables();
+    // After the resource tables: the plain keys of the vessel as a whole.
+    ReadPlainKeys();
     clbkConfigLoaded();
 }
 
@@ -48,9 +51,16 @@ void HULLKIT::clbkPostCreation() {
 }
 
 void HULLKIT::ApplyConfiguration() {
+    BuildResources();
     SetVisibilityLimit(VisLimitMesh, VisLimitSpot);
+    if (AnimCtrlTable.Count() > 0)
+        AddUpdater(&HULLKIT::H_ANIM);
+    AddLevelStreams();
+    if (CgOffset.x != 0.0 || CgOffset.y != 0.0 || CgOffset.z != 0.0)
+        ShiftCG(CgOffset);
     ReplayScenarioLines();
     SetEnableFocus(FocusEnabled);
+    FindMainTank();
 }
 
 void HULLKIT::clbkPreStep(double simt, double simdt, double) {

@@ -3,6 +3,3 @@
 
 void HULLKIT::ResetVisuals() {}
 void HULLKIT::ClearRuntimeTables() {}
-void HULLKIT::clbkVisualCreated(VISHANDLE, int) {}
-void HULLKIT::clbkVisualDestroyed(VISHANDLE, int) {}
-void HULLKIT::H_ANIM() {}

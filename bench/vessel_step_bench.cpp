@@ -1,0 +1,34 @@
+// The cost of a vessel's step: one indirect call per active updater.
+#include <benchmark/benchmark.h>
+
+#include "probe_vessel.h"
+#include "test_world.h"
+
+namespace {
+
+void VesselStep(benchmark::State &state) {
+    testing_support::TestWorld env;
+    env.AddClass("Probe", ProbeInit, ProbeExit);
+    auto &p = testing_support::Object<ProbeVessel>(env.Load("P", "Test\\Probe", {"STATUS Orbiting Earth"}));
+    // The four timer lists with nothing due: each costs its serving updater's call.
+    const int lists = static_cast<int>(state.range(0));
+    if (lists > 0)
+        p.AddOneShot(1e9, &HULLKIT::H_NO_ACT);
+    if (lists > 1)
+        p.AddEngineOneShot(1e9, &HULLKIT::H_NO_ACT);
+    if (lists > 2)
+        p.AddSecondEvent(&HULLKIT::H_NO_ACT);
+    if (lists > 3)
+        p.AddMinuteEvent(&HULLKIT::H_NO_ACT);
+    p.SkipNextStep = false;
+    double t = 0.0;
+    for (auto _ : state) {
+        p.clbkPreStep(t += 1e-3, 1e-3, 0.0);
+        benchmark::DoNotOptimize(p.SimTime);
+    }
+    state.counters["updaters"] = static_cast<double>(p.Updaters.size());
+}
+
+} // namespace
+
+BENCHMARK(VesselStep)->Arg(0)->Arg(1)->Arg(2)->Arg(3)->Arg(4);

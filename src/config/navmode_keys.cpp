@@ -1,0 +1,22 @@
+// Navmodes: the host navigation modes that the vessel implements. A given list
+// allows exactly the names in it.
+#include <algorithm>
+
+#include "config/text_ops.h"
+#include "frame/hullkit.h"
+
+namespace {
+
+const char *const kNavModeNames[8] = {"NONE",       "KILLROT", "HLEVEL",     "PROGRADE",
+                                      "RETROGRADE", "NORMAL",  "ANTINORMAL", "HOLDALT"};
+
+} // namespace
+
+void HULLKIT::ReadNavmodesKey() {
+    const std::string &value = Cfg("Navmodes");
+    if (value.empty())
+        return;
+    const std::vector<std::string> names = SplitQuoted(value);
+    for (int mode = 0; mode < 8; ++mode)
+        NavImplemented[mode] = std::find(names.begin(), names.end(), kNavModeNames[mode]) != names.end();
+}

@@ -1,0 +1,22 @@
+// An attachment point for a carried vessel.
+#pragma once
+
+#include <string>
+
+#include "Orbitersdk.h"
+#include "resources/hk_resources.h"
+
+struct CHILD_REC {
+    static constexpr char kTypeName[] = "CHILD_REC";
+
+    std::string name;
+    VECTOR3 pos{0, 0, 0};
+    VECTOR3 dir{0, 0, 0};
+    VECTOR3 rot{0, 0, 0};
+    std::string scnVar;         // scenario key of this point
+    VECTOR3 ConfigPos{0, 0, 0}; // the configured vectors, the reference for saving
+    VECTOR3 ConfigDir{0, 0, 0};
+    VECTOR3 ConfigRot{0, 0, 0};
+};
+
+template <> void HkResources<CHILD_REC>::ParseRecord(std::string name, CHILD_REC *record);

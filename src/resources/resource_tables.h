@@ -1,0 +1,21 @@
+// The seventeen record types of the resource tables.
+#pragma once
+
+#include "resources/hk_resources.h"
+#include "resources/records/aero_rec.h"
+#include "resources/records/anim_ctrl_rec.h"
+#include "resources/records/anim_rec.h"
+#include "resources/records/beacon_rec.h"
+#include "resources/records/camera_rec.h"
+#include "resources/records/child_rec.h"
+#include "resources/records/material_rec.h"
+#include "resources/records/mesh_rec.h"
+#include "resources/records/particle_rec.h"
+#include "resources/records/separation_rec.h"
+#include "resources/records/sound_rec.h"
+#include "resources/records/spotlightset_rec.h"
+#include "resources/records/tank_rec.h"
+#include "resources/records/texture_rec.h"
+#include "resources/records/thruster_rec.h"
+#include "resources/records/thrustergroup_rec.h"
+#include "resources/records/wreck_rec.h"

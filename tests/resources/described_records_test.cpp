@@ -1,0 +1,231 @@
+// The records that only describe: cameras, aero data, children, separations,
+// wrecks, sounds and floodlight sets, with beacons and particle streams, whose
+// specifications the host receives.
+#include "resource_fixture.h"
+
+namespace {
+
+// The layouts as the shipped common file has them.
+constexpr const char *kDescriptiveHeaders =
+    "CAMERA_REC = Camera Cameras SName VPos VDir DTilt IDisabled DLimRotLeft DLimRotRight DLimRotUp "
+    "DLimRotDown\n"
+    "AERO_REC = Aero AeroData SName VCenterOfPressure DWingChord DWingS DWingAspect DDCmomentMax "
+    "DCdragMin DCdragMax\n"
+    "CHILD_REC = Child Children SName VPos VDir VRot SScnVar\n"
+    "SEPARATION_REC = Sep Separations SName DVFrom DVSpan VF1From VF1Span VF1Pos VF2From VF2Span VF2Pos\n"
+    "WRECK_REC = Wreck Wrecks SName SFile\n"
+    "SOUND_REC = Sound Sounds SName SFile IMode\n"
+    "SPOTLIGHTSET_REC = SpotSet SpotlightSets SName VPos ICols IRows DLen DWid DFaceWidth DAzm DElev "
+    "DdAzm DdElev DdHorStep DdVertStep DLightAzmAngle\n"
+    "BEACON_REC = Beacon Beacons SName VPos VColor IType DSizeB DFalloff DPeriod DDuration DTofs\n"
+    "TEXTURE_REC = Texture Textures SName SType SFile\n"
+    "PARTICLE_REC = Particle Particles SName PPSS STex\n";
+
+void ExpectVector(const VECTOR3 &v, double x, double y, double z) {
+    EXPECT_DOUBLE_EQ(v.x, x);
+    EXPECT_DOUBLE_EQ(v.y, y);
+    EXPECT_DOUBLE_EQ(v.z, z);
+}
+
+} // namespace
+
+TEST_F(ResourceTest, DescriptiveRecordsTakeTheirKeysAndDefaultsForShortLines) {
+    Common(kDescriptiveHeaders);
+    Class("Cameras = {\n"
+          "  top   (0,1,2) yplus 0.1 false 0.2 0.3 0.4 0.5\n"
+          "  off   xyz0    zplus 0   true\n"
+          "  one   xyz0    zplus 0   1\n"
+          "  bare  (1,1,1)\n"
+          "}\n"
+          "AeroData = {\n  aDefault (0,0,-1) 3 8 0.5 0.25 1.6 0.4\n}\n"
+          "Children = {\n  Cargo (0,0,2) zplus yplus CARGO\n  Loose (0,1,0)\n}\n"
+          "Separations = {\n"
+          "  sepCargo 0.5 0.1 (-1,-2,-3) (2,4,6) (0,0,1) (7,8,9) (1,1,1) (0,0,-1)\n"
+          "  sepSlow  0.2\n"
+          "}\n"
+          "Wrecks = {\n  Piece A\n  Other B\n}\nWreck0 = Piece C\n"
+          "Sounds = {\n  Filler NONE DEFAULT\n  Radio radio.wav RADIO_SOUND\n  Bare bare.wav\n}\n"
+          "SpotlightSets = {\n  Mast (1,2,3) 4 2 50 3 0.5 10 -5 2.5 1.5 0.4 0.3 45\n}\n");
+    ProbeVessel &p = Load();
+
+    const CAMERA_REC *top = p.CameraTable.Find("top");
+    ASSERT_NE(top, nullptr);
+    EXPECT_EQ(top->name, "top");
+    ExpectVector(top->pos, 0, 1, 2);
+    ExpectVector(top->dir, 0, 1, 0);
+    EXPECT_DOUBLE_EQ(top->tilt, 0.1);
+    EXPECT_FALSE(top->disabled);
+    EXPECT_DOUBLE_EQ(top->limRotLeft, 0.2);
+    EXPECT_DOUBLE_EQ(top->limRotRight, 0.3);
+    EXPECT_DOUBLE_EQ(top->limRotUp, 0.4);
+    EXPECT_DOUBLE_EQ(top->limRotDown, 0.5);
+    EXPECT_TRUE(p.CameraTable.Find("off")->disabled);
+    EXPECT_TRUE(p.CameraTable.Find("one")->disabled);
+    const CAMERA_REC *bare = p.CameraTable.Find("bare");
+    ExpectVector(bare->dir, 0, 0, 0);
+    EXPECT_FALSE(bare->disabled);
+    EXPECT_DOUBLE_EQ(bare->limRotDown, 0.0);
+    // The configuration has cameras, so the default one isn't made.
+    EXPECT_EQ(p.CameraTable.Find("fwd"), nullptr);
+    EXPECT_EQ(p.CurrentCamera, "top");
+
+    // A drag maximum below the minimum gives a negative span, unchecked.
+    const AERO_REC *aero = p.AeroTable.Find("aDefault");
+    ASSERT_NE(aero, nullptr);
+    ExpectVector(aero->centerOfPressure, 0, 0, -1);
+    EXPECT_DOUBLE_EQ(aero->wingChord, 3.0);
+    EXPECT_DOUBLE_EQ(aero->wingS, 8.0);
+    EXPECT_DOUBLE_EQ(aero->wingAspect, 0.5);
+    EXPECT_DOUBLE_EQ(aero->dcMomentMax, 0.25);
+    EXPECT_DOUBLE_EQ(aero->cdragSpan, 0.4 - 1.6);
+
+    const CHILD_REC *cargo = p.ChildTable.Find("Cargo");
+    ASSERT_NE(cargo, nullptr);
+    ExpectVector(cargo->pos, 0, 0, 2);
+    ExpectVector(cargo->dir, 0, 0, 1);
+    ExpectVector(cargo->rot, 0, 1, 0);
+    EXPECT_EQ(cargo->scnVar, "CARGO");
+    ExpectVector(cargo->ConfigPos, 0, 0, 2);
+    ExpectVector(cargo->ConfigDir, 0, 0, 1);
+    ExpectVector(cargo->ConfigRot, 0, 1, 0);
+    const CHILD_REC *loose = p.ChildTable.Find("Loose");
+    ExpectVector(loose->ConfigPos, 0, 1, 0);
+    ExpectVector(loose->rot, 0, 0, 0);
+    EXPECT_EQ(loose->scnVar, "");
+
+    const SEPARATION_REC *sep = p.SeparationTable.Find("sepCargo");
+    ASSERT_NE(sep, nullptr);
+    EXPECT_DOUBLE_EQ(sep->vFrom, 0.5);
+    EXPECT_DOUBLE_EQ(sep->vSpan, 0.1);
+    ExpectVector(sep->f1From, -1, -2, -3);
+    ExpectVector(sep->f1Span, 2, 4, 6);
+    ExpectVector(sep->f1Pos, 0, 0, 1);
+    ExpectVector(sep->f2From, 7, 8, 9);
+    ExpectVector(sep->f2Span, 1, 1, 1);
+    ExpectVector(sep->f2Pos, 0, 0, -1);
+    const SEPARATION_REC *slow = p.SeparationTable.Find("sepSlow");
+    EXPECT_DOUBLE_EQ(slow->vFrom, 0.2);
+    EXPECT_DOUBLE_EQ(slow->vSpan, 0.0);
+    ExpectVector(slow->f2Pos, 0, 0, 0);
+
+    // Two wreck lines of one name are one record, in its first place, with
+    // the last file.
+    EXPECT_EQ(p.WreckTable.Count(), 2);
+    EXPECT_EQ(p.WreckTable.Find("Piece")->file, "C");
+    EXPECT_EQ(p.WreckTable.At(1)->file, "B");
+
+    EXPECT_EQ(p.SoundTable.Find("Filler")->file, "");
+    EXPECT_EQ(p.SoundTable.Find("Radio")->file, "radio.wav");
+    EXPECT_EQ(p.SoundTable.Find("Radio")->mode, 8);
+    ASSERT_NE(p.SoundTable.Find("Bare"), nullptr);
+    EXPECT_EQ(p.SoundTable.Find("Bare")->name, "Bare");
+    EXPECT_EQ(p.SoundTable.Find("Bare")->mode, 0);
+
+    const SPOTLIGHTSET_REC *mast = p.SpotlightSetTable.Find("Mast");
+    ASSERT_NE(mast, nullptr);
+    ExpectVector(mast->pos, 1, 2, 3);
+    EXPECT_EQ(mast->cols, 4);
+    EXPECT_EQ(mast->rows, 2);
+    EXPECT_DOUBLE_EQ(mast->len, 50.0);
+    EXPECT_DOUBLE_EQ(mast->wid, 3.0);
+    EXPECT_DOUBLE_EQ(mast->faceWidth, 0.5);
+    EXPECT_DOUBLE_EQ(mast->azm, 10.0);
+    EXPECT_DOUBLE_EQ(mast->elev, -5.0);
+    EXPECT_DOUBLE_EQ(mast->dAzm, 2.5);
+    EXPECT_DOUBLE_EQ(mast->dElev, 1.5);
+    EXPECT_DOUBLE_EQ(mast->dHorStep, 0.4);
+    EXPECT_DOUBLE_EQ(mast->dVertStep, 0.3);
+    EXPECT_DOUBLE_EQ(mast->lightAzmAngle, 45.0);
+}
+
+TEST_F(ResourceTest, BeaconsReachTheHostAsPointersIntoTheirRecords) {
+    Common(kDescriptiveHeaders);
+    Class("Beacons = {\n"
+          "  Strobe (0,2,0) (1,1,1) STAR 0.5 0.4 2 0.1 0.3\n"
+          "  Odd    (1,0,0) (1,0,0) 4\n"
+          "  Short  (0,0,5)\n"
+          "}\n");
+    ProbeVessel &p = Load({"RESOURCE Beacons Late (9,9,9) (0,1,0) DIFFUSE 1"});
+    hullhost::Vessel &v = Host();
+
+    ASSERT_EQ(p.BeaconTable.Count(), 4);
+    ASSERT_EQ(v.beacons.size(), 4u);
+    for (int32_t i = 0; i < p.BeaconTable.Count(); ++i) {
+        BEACON_REC *b = p.BeaconTable.At(i);
+        EXPECT_EQ(v.beacons[static_cast<std::size_t>(i)], &b->spec) << i;
+        EXPECT_EQ(b->spec.pos, &b->pos) << i;
+        EXPECT_EQ(b->spec.col, &b->color) << i;
+        EXPECT_FALSE(b->spec.active) << i;
+    }
+
+    const BEACONLIGHTSPEC &strobe = *v.beacons[0];
+    EXPECT_EQ(strobe.shape, 2u);
+    ExpectVector(*strobe.pos, 0, 2, 0);
+    ExpectVector(*strobe.col, 1, 1, 1);
+    EXPECT_DOUBLE_EQ(strobe.size, 0.5);
+    EXPECT_DOUBLE_EQ(strobe.falloff, 0.4);
+    EXPECT_DOUBLE_EQ(strobe.period, 2.0);
+    EXPECT_DOUBLE_EQ(strobe.duration, 0.1);
+    EXPECT_DOUBLE_EQ(strobe.tofs, 0.3);
+    EXPECT_EQ(v.beacons[1]->shape, 4u);
+    EXPECT_DOUBLE_EQ(v.beacons[1]->size, 0.0);
+    EXPECT_EQ(v.beacons[2]->shape, 0u);
+    ExpectVector(*v.beacons[2]->col, 0, 0, 0);
+    EXPECT_EQ(v.beacons[3]->shape, 1u);
+    ExpectVector(*v.beacons[3]->pos, 9, 9, 9);
+
+    // A record parsed again in place keeps the addresses the host holds, and
+    // the host sees its new values.
+    BEACON_REC *strobeRecord = p.BeaconTable.Find("Strobe");
+    strobeRecord->spec.active = true;
+    p.BeaconTable.AddResourceLine("Strobe (0,3,0) (1,0,0) COMPACT", false);
+    p.BeaconTable.CreateRecord("Strobe");
+    EXPECT_EQ(p.BeaconTable.Find("Strobe"), strobeRecord);
+    EXPECT_EQ(v.beacons[0], &strobeRecord->spec);
+    ExpectVector(*v.beacons[0]->pos, 0, 3, 0);
+    EXPECT_FALSE(v.beacons[0]->active);
+}
+
+TEST_F(ResourceTest, ParticleSpecificationTakesTheSurfaceOfItsTexture) {
+    Common(kDescriptiveHeaders);
+    Class("Textures = {\n  txSmoke PARTICLE Smoke\n}\n"
+          "Particles = {\n"
+          "  Smoke 1 2 3 4 5 6 7 8 DIFFUSE LVL_LIN 0 1 ATM_PLIN 0.1 0.9 txSmoke\n"
+          "  Plain 1 2 3 4 5 6 7 8 EMISSIVE LVL_LIN 0 1 ATM_PLIN 0.1 0.9 NONE\n"
+          "  Bare  1 2 3 4 5 6 7 8 EMISSIVE LVL_LIN 0 1 ATM_PLIN 0.1 0.9\n"
+          "  Lost  1 2 3 4 5 6 7 8 EMISSIVE LVL_LIN 0 1 ATM_PLIN 0.1 0.9 txNowhere\n"
+          "}\n");
+    ProbeVessel &p = Load();
+
+    // Whatever surface the texture record holds is the one the stream is drawn with.
+    TEXTURE_REC *texture = p.TextureTable.Find("txSmoke");
+    ASSERT_NE(texture, nullptr);
+    char file[] = "Smoke";
+    texture->surface = oapiRegisterParticleTexture(file);
+    ASSERT_NE(texture->surface, nullptr);
+    p.ParticleTable.CreateRecord("Smoke");
+
+    const PARTICLE_REC *smoke = p.ParticleTable.Find("Smoke");
+    EXPECT_EQ(smoke->name, "Smoke");
+    EXPECT_EQ(smoke->tex, "txSmoke");
+    EXPECT_EQ(smoke->spec.tex, texture->surface);
+    EXPECT_EQ(smoke->spec.flags, 1u);
+    EXPECT_DOUBLE_EQ(smoke->spec.srcsize, 2.0);
+    EXPECT_DOUBLE_EQ(smoke->spec.atmslowdown, 8.0);
+    EXPECT_EQ(smoke->spec.ltype, PARTICLESTREAMSPEC::DIFFUSE);
+    EXPECT_EQ(smoke->spec.atmsmap, PARTICLESTREAMSPEC::ATM_PLIN);
+    EXPECT_DOUBLE_EQ(smoke->spec.amax, 0.9);
+
+    for (const char *name : {"Plain", "Bare", "Lost"}) {
+        const PARTICLE_REC *other = p.ParticleTable.Find(name);
+        ASSERT_NE(other, nullptr) << name;
+        EXPECT_EQ(other->spec.tex, nullptr) << name;
+        EXPECT_DOUBLE_EQ(other->spec.srcrate, 3.0) << name;
+    }
+    EXPECT_EQ(p.ParticleTable.Find("Plain")->tex, "");
+
+    // Parsed again without a texture, the record loses the surface.
+    p.ParticleTable.AddLine("Smoke 1 2 3 4 5 6 7 8 DIFFUSE LVL_LIN 0 1 ATM_PLIN 0.1 0.9 NONE", false);
+    p.ParticleTable.CreateRecord("Smoke");
+    EXPECT_EQ(smoke->spec.tex, nullptr);
+}

@@ -1,0 +1,80 @@
+// The stage's engine gimbal as the host holds it after loading: two rotations
+// of the nozzle, the yaw hung on the pitch, driven by their controls.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/world.h"
+#include "frame/hullkit.h"
+
+using ::testing::ElementsAre;
+
+namespace {
+
+class KorvanGimbal : public ::testing::Test {
+  protected:
+    KorvanGimbal() : previous_(std::filesystem::current_path()) {
+        std::filesystem::current_path(HULLKIT_TEST_ROOT);
+        world_ = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
+        hullhost::Vessel &v = world_->ConstructVessel("Korvan-1", "Fleet\\Korvan");
+        world_->LoadVesselState(v, {"STATUS Orbiting Earth", "RPOS 6571010.00 0.00 0.00",
+                                    "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00", "VROT 0.00 0.00 0.00"});
+        world_->PostCreate(v);
+        vessel = &v;
+        stage = static_cast<HULLKIT *>(v.iface);
+    }
+    ~KorvanGimbal() override {
+        world_.reset();
+        std::filesystem::current_path(previous_);
+    }
+
+    std::filesystem::path previous_;
+    std::unique_ptr<hullhost::World> world_;
+    hullhost::Vessel *vessel = nullptr;
+    HULLKIT *stage = nullptr;
+};
+
+} // namespace
+
+TEST_F(KorvanGimbal, PitchAndYawTurnTheNozzleOneUnderTheOther) {
+    const ANIM_REC &pitch = *stage->AnimTable.Find("MainPitch");
+    const ANIM_REC &yaw = *stage->AnimTable.Find("MainYaw");
+    ASSERT_NE(pitch.rotate, nullptr);
+    ASSERT_NE(yaw.rotate, nullptr);
+    EXPECT_NE(pitch.animation, yaw.animation);
+    EXPECT_EQ(pitch.rotate->ngrp, 0u);
+    EXPECT_THAT(std::vector<UINT>(yaw.rotate->grp, yaw.rotate->grp + yaw.rotate->ngrp), ElementsAre(4u, 5u));
+    EXPECT_FLOAT_EQ(yaw.rotate->angle, static_cast<float>(3.0 * PI / 180.0));
+    EXPECT_DOUBLE_EQ(pitch.rotate->axis.x, 1.0);
+    EXPECT_DOUBLE_EQ(yaw.rotate->axis.y, 1.0);
+    EXPECT_DOUBLE_EQ(yaw.rotate->ref.z, -1.0);
+
+    const hullhost::Animation &hostYaw = *vessel->animations.at(yaw.animation);
+    ASSERT_EQ(hostYaw.components.size(), 1u);
+    ASSERT_NE(hostYaw.components[0]->parent, nullptr);
+    EXPECT_EQ(hostYaw.components[0]->parent->Handle(), pitch.component);
+    EXPECT_DOUBLE_EQ(hostYaw.components[0]->state0, -1.0);
+
+    // The controls start centred in their range of -1 to 1.
+    ANIM_CTRL_REC *pitchControl = stage->AnimCtrlTable.Find("acMainPitch");
+    ANIM_CTRL_REC *yawControl = stage->AnimCtrlTable.Find("acMainYaw");
+    ASSERT_NE(pitchControl, nullptr);
+    ASSERT_NE(yawControl, nullptr);
+    EXPECT_EQ(pitchControl->animation, pitch.animation);
+    EXPECT_DOUBLE_EQ(pitchControl->from, -1.0);
+    EXPECT_DOUBLE_EQ(pitchControl->state, 0.0);
+
+    // The module's own updater moves a control over the frames (the first
+    // frame after creation is skipped): 2 per second over 0.1 s.
+    pitchControl->direction = 1;
+    world_->Frame(0.1);
+    world_->Frame(0.1);
+    EXPECT_DOUBLE_EQ(vessel->animations.at(pitch.animation)->state, 0.2);
+
+    // One immediate step toward a command.
+    stage->SimStep = 0.1;
+    stage->SetControllerTarget(yawControl, -0.5, true);
+    EXPECT_DOUBLE_EQ(hostYaw.state, -0.2);
+    EXPECT_DOUBLE_EQ(vessel->animations.at(pitch.animation)->state, 0.2);
+}

@@ -1,0 +1,81 @@
+// The contrail, hot wake and dust streams that the vessel drives through its
+// level members, and the configured shift of the centre of gravity.
+#include "resource_fixture.h"
+
+namespace {
+
+constexpr const char *kStreamParticles =
+    "Particles = {\n"
+    "  Contrail     0 4 6 150 0.3 8 4 3 DIFFUSE LVL_PSQRT 0 0.5 ATM_PLOG 1 2\n"
+    "  ContrailHeat 0 3 6 150 0.3 8 4 3 EMISSIVE LVL_FLAT 1 1 ATM_PLOG 1 2\n"
+    "  Dust         0 2 6 150 0.3 8 4 3 DIFFUSE LVL_FLAT 1 1 ATM_FLAT 1 1\n"
+    "}\n";
+
+} // namespace
+
+TEST_F(ResourceTest, StreamsFollowTheirLevelMembers) {
+    Common(kPropulsionHeaders);
+    Class(std::string(kStreamParticles) +
+          "Tanks = {\n  Main 100\n}\n"
+          "Thrusters = {\n  Aux (0,0,5) zplus 10 Main 3000\n  Engine (0,0,-2) zplus 100 Main 3000\n}\n"
+          "ThrusterGroups = {\n  Main Engine 1\n}\n"
+          "NoReentryGlow = true\n"
+          "HeatContrailPos = 1 2\n"
+          "CG = 0 0 0.5\n");
+    ProbeVessel &p = Load();
+    hullhost::Vessel &v = Host();
+
+    ASSERT_EQ(v.streams.size(), 3u);
+    const hullhost::ParticleStream &contrail = *v.streams[0];
+    const hullhost::ParticleStream &heat = *v.streams[1];
+    const hullhost::ParticleStream &dust = *v.streams[2];
+
+    // 50 m behind the main group's first thruster, whatever comes before it.
+    EXPECT_EQ(contrail.thruster, nullptr);
+    EXPECT_DOUBLE_EQ(contrail.pos.z, -52.0);
+    EXPECT_DOUBLE_EQ(contrail.dir.z, -1.0);
+    EXPECT_EQ(contrail.level, &p.ContrailLevel);
+    EXPECT_DOUBLE_EQ(contrail.spec.srcsize, 4.0);
+    EXPECT_EQ(contrail.spec.levelmap, PARTICLESTREAMSPEC::LVL_PSQRT);
+
+    // A position given in part keeps the rest of the default.
+    EXPECT_DOUBLE_EQ(heat.pos.x, 1.0);
+    EXPECT_DOUBLE_EQ(heat.pos.y, 2.0);
+    EXPECT_DOUBLE_EQ(heat.pos.z, -10.0);
+    EXPECT_DOUBLE_EQ(heat.dir.z, -1.0);
+    EXPECT_EQ(heat.level, &p.HeatContrailLevel);
+    EXPECT_DOUBLE_EQ(heat.spec.srcsize, 3.0);
+
+    EXPECT_DOUBLE_EQ(dust.pos.z, 0.0);
+    EXPECT_DOUBLE_EQ(dust.dir.y, 1.0);
+    EXPECT_EQ(dust.level, &p.DustLevel);
+    EXPECT_DOUBLE_EQ(dust.spec.srcsize, 2.0);
+
+    // The host sees what the vessel writes.
+    EXPECT_DOUBLE_EQ(*dust.level, 0.0);
+    p.DustLevel = 1.0;
+    p.ContrailLevel = 0.5;
+    EXPECT_DOUBLE_EQ(*dust.level, 1.0);
+    EXPECT_DOUBLE_EQ(*contrail.level, 0.5);
+
+    EXPECT_DOUBLE_EQ(v.cgShift.z, 0.5);
+}
+
+TEST_F(ResourceTest, StreamsWithoutTheirRecordsOrAMainGroupAreLeftOut) {
+    Common(kPropulsionHeaders);
+    // A contrail record without a main group, and a main group whose first
+    // thruster doesn't exist.
+    Class("Particles = {\n"
+          "  Contrail     0 4 6 150 0.3 8 4 3 DIFFUSE LVL_PSQRT 0 0.5 ATM_PLOG 1 2\n"
+          "  ContrailHeat 0 3 6 150 0.3 8 4 3 EMISSIVE LVL_FLAT 1 1 ATM_PLOG 1 2\n"
+          "}\n"
+          "ThrusterGroups = {\n  Main Nobody 1\n}\n"
+          "NoReentryGlow = true\n");
+    ProbeVessel &p = Load();
+    hullhost::Vessel &v = Host();
+
+    ASSERT_EQ(v.streams.size(), 1u);
+    EXPECT_EQ(v.streams[0]->level, &p.HeatContrailLevel);
+    EXPECT_DOUBLE_EQ(v.streams[0]->pos.z, -10.0);
+    EXPECT_DOUBLE_EQ(v.cgShift.z, 0.0);
+}

@@ -1,0 +1,134 @@
+// Mesh records in the host: order, offsets, visibility and load requests,
+// and the operations that show, hide and load meshes later.
+#include "mesh_fixture.h"
+
+using ::testing::ElementsAre;
+
+namespace {
+
+void ExpectOffset(const hullhost::MeshSlot &slot, double x, double y, double z) {
+    EXPECT_DOUBLE_EQ(slot.offset.x, x);
+    EXPECT_DOUBLE_EQ(slot.offset.y, y);
+    EXPECT_DOUBLE_EQ(slot.offset.z, z);
+}
+
+} // namespace
+
+TEST_F(MeshTest, MeshesReachTheHostInTableOrderWithTheirOffsetsAndModes) {
+    Meshes("Meshes = {\n"
+           "  Hull   Test\\Box  xyz0\n"
+           "  Door   Test\\Box  (1,2,3)  NEVER   LATER\n"
+           "  Glass  Test\\Box  (0,0,1)  EXTPASS LOAD\n"
+           "  Odd    Test\\Box  (0,0,2)  always\n"
+           "}\n"
+           "Mesh0 = Plume Test\\Box (0,0,-5) COCKPIT\n");
+    // The variant moves the first mesh without changing its place.
+    Variant("V", "Meshes = {\n  Hull Test\\Box (0,0,9) VC\n}\n");
+    ProbeVessel &p = Load({"SUBTYPE V"});
+    hullhost::Vessel &v = Host();
+
+    ASSERT_EQ(v.meshes.size(), 4u);
+    EXPECT_EQ(v.meshes[0].file, "Test\\Box");
+    ExpectOffset(v.meshes[0], 0, 0, 9);
+    EXPECT_EQ(v.meshes[0].visibility, MESHVIS_VC);
+    ExpectOffset(v.meshes[1], 0, 0, 1);
+    EXPECT_EQ(v.meshes[1].visibility, 0x13);
+    EXPECT_EQ(v.meshes[2].visibility, MESHVIS_NEVER); // a word in small letters isn't one
+    ExpectOffset(v.meshes[3], 0, 0, -5);
+    EXPECT_EQ(v.meshes[3].visibility, MESHVIS_COCKPIT);
+
+    const MESH_REC *glass = p.MeshTable.Find("Glass");
+    EXPECT_EQ(glass->index, 1u);
+    EXPECT_EQ(glass->vis0, 0x13);
+    const MESH_REC *door = p.MeshTable.Find("Door");
+    EXPECT_FALSE(door->load);
+    EXPECT_FALSE(door->load0);
+    EXPECT_EQ(door->handle, nullptr);
+    EXPECT_EQ(door->vis0, MESHVIS_NEVER);
+    EXPECT_FALSE(p.HasGlowMaterials || p.HasAlphaMaterials);
+}
+
+TEST_F(MeshTest, AMeshNotLoadedAtCreationIsLoadedLaterOnce) {
+    Meshes("Meshes = {\n"
+           "  Hull   Test\\Box  xyz0\n"
+           "  Door   Test\\Box  (1,2,3)  NEVER   LATER\n"
+           "}\n");
+    ProbeVessel &p = Load();
+    hullhost::Vessel &v = Host();
+    ASSERT_EQ(v.meshes.size(), 1u);
+
+    p.LoadMeshByName("Nobody", true, false);
+    p.LoadMeshByName("Door", false, false); // not asked to: stays out
+    ASSERT_EQ(v.meshes.size(), 1u);
+
+    p.LoadMeshByName("Door", true, false);
+    const MESH_REC *door = p.MeshTable.Find("Door");
+    ASSERT_EQ(v.meshes.size(), 2u);
+    EXPECT_TRUE(door->load);
+    EXPECT_EQ(door->index, 1u);
+    EXPECT_NE(door->handle, nullptr);
+    ExpectOffset(v.meshes[1], 1, 2, 3);
+    EXPECT_EQ(v.meshes[1].visibility, MESHVIS_NEVER);
+    EXPECT_NE(Device(1), nullptr); // the visual follows
+
+    // A second request keeps the one mesh and only sets the external pass.
+    p.LoadMeshByName(std::string("Door"), true, true);
+    ASSERT_EQ(v.meshes.size(), 2u);
+    EXPECT_EQ(v.meshes[1].visibility, 0x13);
+    EXPECT_EQ(door->vis, 0x13);
+}
+
+TEST_F(MeshTest, HideShowAndModesReachOnlyTheirOwnMesh) {
+    Meshes("Meshes = {\n"
+           "  Hull   Test\\Box  xyz0\n"
+           "  Door   Test\\Box  (1,2,3)  EXTERNAL  LATER\n"
+           "  Glass  Test\\Box  (0,0,1)  EXTERNAL\n"
+           "}\n");
+    ProbeVessel &p = Load();
+    hullhost::Vessel &v = Host();
+
+    p.HideMesh("Glass");
+    EXPECT_EQ(v.meshes[1].visibility, MESHVIS_NEVER);
+    p.ShowMesh("Glass");
+    EXPECT_EQ(v.meshes[1].visibility, MESHVIS_ALWAYS);
+    p.SetMeshVis("Glass", MESHVIS_VC);
+    EXPECT_EQ(v.meshes[1].visibility, MESHVIS_VC);
+    EXPECT_EQ(v.meshes[0].visibility, MESHVIS_ALWAYS);
+
+    // A mesh outside the host keeps its mode for its loading and leaves the
+    // mesh at index 0 alone; a name without a record changes nothing.
+    p.HideMesh("Door");
+    p.HideMesh("Nobody");
+    EXPECT_EQ(v.meshes[0].visibility, MESHVIS_ALWAYS);
+    p.LoadMeshByName("Door", true, false);
+    EXPECT_EQ(v.meshes[2].visibility, MESHVIS_NEVER);
+}
+
+TEST_F(MeshTest, MaterialsTakeTheirMeshAndSetTheVesselFlags) {
+    Meshes("Meshes = {\n"
+           "  Hull   Test\\Box  xyz0\n"
+           "  Door   Test\\Box  xyz0  ALWAYS  LATER\n"
+           "  Glass  Test\\Box  xyz0\n"
+           "}\n"
+           "Materials = {\n"
+           "  mGlow  Glass   ReentryGlow  0 1\n"
+           "  mFade  Hull    ReentryAlpha 1\n"
+           "  mOut   Door    ReentryAlpha 0\n"
+           "  mNone  Nobody  Other\n"
+           "}\n");
+    ProbeVessel &p = Load();
+
+    const MATERIAL_REC *glow = p.MaterialTable.Find("mGlow");
+    EXPECT_EQ(glow->kind, 0);
+    EXPECT_EQ(glow->meshIndex, 1u);
+    EXPECT_EQ(glow->meshHandle, p.MeshTable.Find("Glass")->handle);
+    EXPECT_THAT(glow->matList, ElementsAre(0, 1));
+    EXPECT_TRUE(glow->hiddenState);
+    const MATERIAL_REC *fade = p.MaterialTable.Find("mFade");
+    EXPECT_EQ(fade->kind, 1);
+    EXPECT_EQ(fade->meshIndex, 0u);
+    EXPECT_EQ(p.MaterialTable.Find("mOut")->meshHandle, nullptr);
+    EXPECT_EQ(p.MaterialTable.Find("mNone")->meshHandle, nullptr);
+    EXPECT_TRUE(p.HasGlowMaterials);
+    EXPECT_TRUE(p.HasAlphaMaterials);
+}
