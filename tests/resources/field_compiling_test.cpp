@@ -76,26 +76,12 @@ TEST_F(ResourceTest, FieldsAreCompiledByTheirLettersWithDefaultsForWhatALineDoes
 
 TEST_F(ResourceTest, EveryIntegerKeywordDecodesInAnyTable) {
     Common("SOUND_REC = Sound Sounds SName IMode\n");
-    const std::vector<std::pair<std::string, int>> words = {{"ROTATE", 1},
-                                                            {"TRANSLATE", 2},
-                                                            {"SCALE", 3},
-                                                            {"COMPACT", 0},
-                                                            {"DIFFUSE", 1},
-                                                            {"STAR", 2},
-                                                            {"BOTHVIEW_FADED_FAR", 4},
-                                                            {"DEFAULT", 0},
-                                                            {"INTERNAL_ONLY", 1},
-                                                            {"BOTHVIEW_FADED_CLOSE", 2},
-                                                            {"BOTHVIEW_FADED_MEDIUM", 3},
-                                                            {"EXTERNAL_ONLY_FADED_CLOSE", 6},
-                                                            {"EXTERNAL_ONLY_FADED_MEDIUM", 7},
-                                                            {"EXTERNAL_ONLY_FADED_FAR", 4},
-                                                            {"RADIO_SOUND", 8},
-                                                            {"true", 1},
-                                                            {"false", 0},
-                                                            {"True", 0},
-                                                            {"-7", -7},
-                                                            {"99999999999", 2147483647}};
+    // Keywords of other tables decode here too; the odd one out shares the
+    // value of its neighbour; case and trailing text matter as in atoi.
+    const std::vector<std::pair<std::string, int>> words = {
+        {"ROTATE", 1},      {"STAR", 2}, {"EXTERNAL_ONLY_FADED_FAR", 4},
+        {"RADIO_SOUND", 8}, {"true", 1}, {"True", 0},
+        {"12abc", 12},      {"-7", -7},  {"99999999999", 2147483647}};
     std::string section = "Sounds = {\n";
     for (size_t i = 0; i < words.size(); ++i)
         section += "s" + std::to_string(i) + " " + words[i].first + "\n";

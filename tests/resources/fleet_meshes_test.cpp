@@ -3,38 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "core/world.h"
-#include "frame/hullkit.h"
+#include "fleet_fixture.h"
 #include "visual/visual.h"
 
 namespace {
 
-class FleetMeshes : public ::testing::Test {
+class FleetMeshes : public FleetTest {
   protected:
-    FleetMeshes() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world_ = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-    }
-    ~FleetMeshes() override {
-        world_.reset();
-        std::filesystem::current_path(previous_);
-    }
-
-    HULLKIT &Load(const char *name, const char *className, const std::string &subtype = "") {
-        hullhost::Vessel &v = world_->ConstructVessel(name, className);
-        std::vector<std::string> lines = {"STATUS Orbiting Earth", "RPOS 6571010.00 0.00 0.00",
-                                          "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00",
-                                          "VROT 0.00 0.00 0.00"};
-        if (!subtype.empty())
-            lines.push_back("SUBTYPE " + subtype);
-        world_->LoadVesselState(v, lines);
-        world_->PostCreate(v);
-        vessel = &v;
-        return *static_cast<HULLKIT *>(v.iface);
-    }
-
     // Each mesh record stands in the host at its index, with its file, offset
     // and mode, and with a device mesh in the visual.
     void ExpectMeshes(HULLKIT &k, const std::vector<std::string> &files) {
@@ -54,10 +29,6 @@ class FleetMeshes : public ::testing::Test {
             EXPECT_NE(k.GetDevMesh(k.visual, rec->index), nullptr);
         }
     }
-
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world_;
-    hullhost::Vessel *vessel = nullptr;
 };
 
 } // namespace

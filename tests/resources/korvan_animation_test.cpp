@@ -1,38 +1,14 @@
 // The stage's engine gimbal as the host holds it after loading: two rotations
 // of the nozzle, the yaw hung on the pitch, driven by their controls.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include "core/world.h"
-#include "frame/hullkit.h"
+#include "fleet_fixture.h"
 
 using ::testing::ElementsAre;
 
 namespace {
 
-class KorvanGimbal : public ::testing::Test {
+class KorvanGimbal : public FleetTest {
   protected:
-    KorvanGimbal() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world_ = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-        hullhost::Vessel &v = world_->ConstructVessel("Korvan-1", "Fleet\\Korvan");
-        world_->LoadVesselState(v, {"STATUS Orbiting Earth", "RPOS 6571010.00 0.00 0.00",
-                                    "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00", "VROT 0.00 0.00 0.00"});
-        world_->PostCreate(v);
-        vessel = &v;
-        stage = static_cast<HULLKIT *>(v.iface);
-    }
-    ~KorvanGimbal() override {
-        world_.reset();
-        std::filesystem::current_path(previous_);
-    }
-
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world_;
-    hullhost::Vessel *vessel = nullptr;
-    HULLKIT *stage = nullptr;
+    KorvanGimbal() { LoadKorvan(); }
 };
 
 } // namespace

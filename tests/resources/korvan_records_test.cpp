@@ -3,55 +3,25 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "core/world.h"
-#include "frame/hullkit.h"
+#include "fleet_fixture.h"
 
 using ::testing::ElementsAre;
 
 namespace {
 
-class FleetRecords : public ::testing::Test {
+class FleetRecords : public FleetTest {
   protected:
-    FleetRecords() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world_ = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-    }
-    ~FleetRecords() override {
-        world_.reset();
-        std::filesystem::current_path(previous_);
-    }
-
-    // A vessel of `className` in orbit, with the given subtype when not empty.
-    HULLKIT &Load(const char *className, const std::string &subtype = "") {
-        hullhost::Vessel &v = world_->ConstructVessel("V-1", className);
-        std::vector<std::string> lines = {"STATUS Orbiting Earth", "RPOS 6571010.00 0.00 0.00",
-                                          "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00",
-                                          "VROT 0.00 0.00 0.00"};
-        if (!subtype.empty())
-            lines.push_back("SUBTYPE " + subtype);
-        world_->LoadVesselState(v, lines);
-        world_->PostCreate(v);
-        vessel = &v;
-        return *static_cast<HULLKIT *>(v.iface);
-    }
-
     static void ExpectVector(const VECTOR3 &v, double x, double y, double z) {
         EXPECT_NEAR(v.x, x, 1e-12);
         EXPECT_NEAR(v.y, y, 1e-12);
         EXPECT_NEAR(v.z, z, 1e-12);
     }
-
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world_;
-    hullhost::Vessel *vessel = nullptr;
 };
 
 } // namespace
 
 TEST_F(FleetRecords, KorvanDescribesItsCamerasChildrenSeparationsAndWrecks) {
-    HULLKIT &k = Load("Fleet\\Korvan");
+    HULLKIT &k = Load("V-1", "Fleet\\Korvan");
 
     EXPECT_THAT(k.CameraTable.names, ElementsAre("fwd", "aft", "side"));
     const CAMERA_REC *aft = k.CameraTable.Find("aft");
@@ -98,7 +68,7 @@ TEST_F(FleetRecords, KorvanDescribesItsCamerasChildrenSeparationsAndWrecks) {
 }
 
 TEST_F(FleetRecords, KorvanStreamsCarryTheirTexturesAndLevels) {
-    HULLKIT &k = Load("Fleet\\Korvan");
+    HULLKIT &k = Load("V-1", "Fleet\\Korvan");
 
     for (const char *name : {"Contrail", "ContrailHeat", "Dust", "FireSmoke", "FireFlame"}) {
         const PARTICLE_REC *particle = k.ParticleTable.Find(name);
@@ -124,7 +94,7 @@ TEST_F(FleetRecords, KorvanStreamsCarryTheirTexturesAndLevels) {
 }
 
 TEST_F(FleetRecords, TwoPayloadVariantMovesItsMountsInPlace) {
-    HULLKIT &k = Load("Fleet\\Korvan", "TwoPayloads");
+    HULLKIT &k = Load("V-1", "Fleet\\Korvan", "TwoPayloads");
 
     EXPECT_THAT(k.ChildTable.names, ElementsAre("Fairing", "SOZL", "SOZR", "Payload1", "Payload2"));
     const CHILD_REC *payload1 = k.ChildTable.Find("Payload1");
@@ -136,7 +106,7 @@ TEST_F(FleetRecords, TwoPayloadVariantMovesItsMountsInPlace) {
 }
 
 TEST_F(FleetRecords, GenericPiecesHaveNoContrailButTheirWakeAndDust) {
-    HULLKIT &g = Load("Fleet\\Generic", "SOZL");
+    HULLKIT &g = Load("V-1", "Fleet\\Generic", "SOZL");
 
     ASSERT_EQ(vessel->streams.size(), 2u);
     EXPECT_EQ(vessel->streams[0]->level, &g.HeatContrailLevel);

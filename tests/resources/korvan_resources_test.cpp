@@ -1,34 +1,14 @@
 // The stage's own configuration loaded through its module: the tanks,
 // thrusters and groups that the host holds.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include "core/world.h"
-#include "frame/hullkit.h"
+#include "fleet_fixture.h"
 
 using ::testing::ElementsAre;
 
 namespace {
 
-class KorvanResources : public ::testing::Test {
+class KorvanResources : public FleetTest {
   protected:
-    KorvanResources() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world_ = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-        hullhost::Vessel &v = world_->ConstructVessel("Korvan-1", "Fleet\\Korvan");
-        world_->LoadVesselState(v, {"STATUS Orbiting Earth", "RPOS 6571010.00 0.00 0.00",
-                                    "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00", "VROT 0.00 0.00 0.00"});
-        world_->PostCreate(v);
-        vessel = &v;
-        stage = static_cast<HULLKIT *>(v.iface);
-    }
-    ~KorvanResources() override {
-        world_.reset();
-        std::filesystem::current_path(previous_);
-    }
-
+    KorvanResources() { LoadKorvan(); }
     // The host thruster made for a thruster record.
     hullhost::Thruster *HostThruster(const char *name) {
         const THRUSTER_REC *rec = stage->ThrusterTable.Find(name);
@@ -37,11 +17,6 @@ class KorvanResources : public ::testing::Test {
     hullhost::ThrusterGroup *HostGroup(THGROUP_HANDLE h) {
         return reinterpret_cast<hullhost::ThrusterGroup *>(h);
     }
-
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world_;
-    hullhost::Vessel *vessel = nullptr;
-    HULLKIT *stage = nullptr;
 };
 
 } // namespace
