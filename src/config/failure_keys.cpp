@@ -32,7 +32,7 @@ void HULLKIT::ReadFailureList(const std::string &value) {
         return;
     const std::vector<std::string> tokens = SplitQuoted(value);
     for (std::size_t at = 0; at + 2 <= tokens.size(); at += 2) {
-        const int kind = FailureKind(tokens[at]);
+        const int kind = ::FailureKind(tokens[at]);
         if (kind == 0)
             continue;
         FailureEntry entry{tokens[at], kind, 0.0, 0.0};

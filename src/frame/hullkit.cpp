@@ -85,6 +85,10 @@ void HULLKIT::InitDefaults() {
     EarthHandle = oapiGetGbodyByName("Earth");
     MoonHandle = oapiGetGbodyByName("Moon");
     HudPen = nullptr;
+    CameraTilt = 0.0;
+    VcSwitchPending = ShowClock = false;
+    NavOverrideAvailable = NavOverrideEnabled = false;
+    NavOverrideMode = 0;
 
     PMI = RotDrag = _V(0, 0, 0);
     for (VECTOR3 &point : TouchdownPts)

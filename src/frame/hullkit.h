@@ -3,6 +3,7 @@
 // this one object; what runs in a step is the list of active updaters.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -109,6 +110,17 @@ class HULLKIT : public VESSEL3 {
     virtual void OnTimeAccelChanged();
     virtual void OnNoAction();
     virtual void SetCgOffset(double x, double z);
+
+    // --- Cameras, focus and the message line ------------------------------------
+    // Puts the camera record named CurrentCamera into the host.
+    void ApplyCamera();
+    // Steps to the next enabled camera record, wrapping behind the last.
+    void NextCamera();
+    // Toggles the focus of every secondary framework vessel in the simulation.
+    void ToggleSecondaryFocus();
+    void ToggleAutoSwitchFocus();
+    // Writes "hh:mm:ss" (with a leading "-" for negative times) into `buffer`.
+    static void FormatMissionTime(double seconds, char *buffer, std::size_t size);
 
     // --- Peer messages ---------------------------------------------------------
     intptr_t SendPeerMessage(OBJHANDLE target, int code, intptr_t argument);
@@ -218,6 +230,38 @@ class HULLKIT : public VESSEL3 {
     // as the text of their table.
     void ReadResourceLines();
     void ReadResModsLines();
+    // The run-time changes of the four tables that keep them, applied once
+    // their records exist.
+    void ApplyResourceMods();
+    // The modification text of a record, empty when it is as created, and its
+    // application; the other record types keep no changes.
+    template <class R> std::string ModificationText(const std::string &, R *) { return std::string(); }
+    template <class R> void ApplyRecordMods(const std::string &, const std::string &, R *) {}
+    std::string ModificationText(const std::string &name, TANK_REC *record);
+    std::string ModificationText(const std::string &name, THRUSTERGROUP_REC *record);
+    std::string ModificationText(const std::string &name, ANIM_CTRL_REC *record);
+    std::string ModificationText(const std::string &name, MESH_REC *record);
+    void ApplyRecordMods(const std::string &name, const std::string &value, TANK_REC *record);
+    void ApplyRecordMods(const std::string &name, const std::string &value, THRUSTERGROUP_REC *record);
+    void ApplyRecordMods(const std::string &name, const std::string &value, ANIM_CTRL_REC *record);
+    void ApplyRecordMods(const std::string &name, const std::string &value, MESH_REC *record);
+    // A scenario line by the sink rule: to the file if there is one, else to
+    // `lines`, else to the vessel's own PendingLines as "key value".
+    void EmitScenarioLine(FILEHANDLE scn, std::vector<std::string> *lines, const char *key,
+                          const std::string &value);
+    void WriteResModsAll(FILEHANDLE scn);
+    void WriteResourceAll(FILEHANDLE scn, std::vector<std::string> *lines);
+    void WriteMeshTextures(FILEHANDLE scn, std::vector<std::string> *lines);
+    // The framework's keys that depend on the configuration's values, in
+    // their order of writing.
+    void WriteFrameworkKeys(FILEHANDLE scn);
+    void WriteListKeys(FILEHANDLE scn);
+    // The sequence lines: restart a sequence, and its text for saving (empty
+    // when none runs).
+    void StartTimedSequence(const std::string &name, double clock);
+    void StartConditionalSequence(const std::string &name, const char *states);
+    std::string TimedSequenceText() const;
+    std::string ConditionalSequenceText() const;
 
     // --- Resource tables -----------------------------------------------------------
     // The tables read the configuration, in their order of loading.
@@ -372,6 +416,24 @@ class HULLKIT : public VESSEL3 {
     VECTOR3 ImuYawReference, ImuPitchReference;
     OBJHANDLE EarthHandle, MoonHandle;
     oapi::Pen *HudPen;
+    // Presentation: the camera to come back to after a reload, the debug
+    // camera's tilt [rad], the pending virtual cockpit key, the clock display.
+    std::string SavedCamera;
+    double CameraTilt = 0.0;
+    bool VcSwitchPending = false, ShowClock = false;
+    // The navigation-mode override: the host's modes flown by the vessel itself.
+    bool NavOverrideAvailable = false, NavOverrideEnabled = false;
+    int32_t NavOverrideMode = 0;
+
+    // Scenario-held state of later subsystems: the first pass stores these,
+    // the saving writes them back as they stand.
+    double BallisticTarget[5] = {};
+    double OrbitTargetRadius = 0.0, OrbitInsertRadius = 0.0, OrbitInclination = 0.0;
+    bool ShowMet = false;
+    int32_t FailureIndex = 0, FailureKind = 0;
+    bool PitchFailed = false, YawFailed = false, RollFailed = false;
+    double FireGrowTime = 0.0, FireBurnTime = 0.0, EngineFadeTime = 0.0, FireLevel = 0.0, FireMainLevel = 0.0;
+    bool AwareWhileAttached = false;
 
     // Plain keys of the vessel: what they set beyond the first values above.
     VECTOR3 PMI, RotDrag;

@@ -3,11 +3,14 @@
 #include "frame/hullkit.h"
 
 bool HULLKIT::clbkLoadGenericCockpit() {
-    ReselectCamera();
+    ApplyCamera();
     if (!SoundsAsked) {
         SendPeerMessage(ControllerObject, 12, 0);
         SoundsAsked = true;
     }
-    HudPen = oapiCreatePen(1, 4, 0xff);
+    // The host loads the cockpit each time the vessel takes the focus: one pen
+    // serves them all.
+    if (!HudPen)
+        HudPen = oapiCreatePen(1, 4, 0xff);
     return true;
 }

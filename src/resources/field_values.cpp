@@ -84,7 +84,7 @@ VECTOR3 TokenVector(const std::vector<std::string> &tokens, std::size_t first) {
 PARTICLESTREAMSPEC TokenParticleSpec(const std::vector<std::string> &tokens, std::size_t first) {
     PARTICLESTREAMSPEC spec{};
     // Only the tokens that the line holds are read: a short line keeps the
-    // zero specification's values for the rest.
+    // zeroed parameters for the rest.
     const std::size_t count = first < tokens.size() ? tokens.size() - first : 0;
     auto has = [count](std::size_t i) { return i < count; };
     auto at = [&tokens, first](std::size_t i) -> const std::string & { return tokens[first + i]; };

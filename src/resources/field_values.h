@@ -44,7 +44,7 @@ VECTOR3 TokenVector(const std::vector<std::string> &tokens, std::size_t first);
 // The fifteen tokens of a particle stream from `first`, in the order flags,
 // srcsize, srcrate, v0, srcspread, lifetime, growthrate, atmslowdown, ltype,
 // levelmap, lmin, lmax, atmsmap, amin, amax. Fields beyond the end of the line
-// keep the zero specification's values; `tex` stays null.
+// keep the zeroed parameters; `tex` stays null.
 PARTICLESTREAMSPEC TokenParticleSpec(const std::vector<std::string> &tokens, std::size_t first);
 
 // Not empty, begins with a digit, '-' or '+', and is a base-10 integer as a whole.

@@ -47,6 +47,11 @@ template <class T> class HkResources {
     // Replaces the tokens of `name`; a new name goes behind all others, with the
     // level now being loaded.
     void AddRecord(const std::string &name, std::vector<std::string> tokens);
+    // Applies `modsText`, "name:value" items at blanks, to the named records;
+    // an item for a record that isn't there is passed over.
+    void ApplyMods();
+    // The scenario's own lines of the table, each as a RESOURCE line.
+    void WriteResourceLines(FILEHANDLE scenario, std::vector<std::string> *lines);
     // Compiles and parses every record, in table order.
     void CreateAll();
     void CreateRecord(const std::string &name);

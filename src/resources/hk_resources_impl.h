@@ -9,7 +9,43 @@
 #include "frame/hullkit.h"
 #include "resources/hk_resources.h"
 
-template <class T> void HkResources<T>::WriteResMods(FILEHANDLE, std::vector<std::string> *) {}
+template <class T> void HkResources<T>::WriteResMods(FILEHANDLE scenario, std::vector<std::string> *lines) {
+    modsText.clear();
+    for (const std::string &name : names)
+        if (T *record = Find(name)) {
+            const std::string text = owner->ModificationText(name, record);
+            if (!text.empty())
+                modsText += name + ":" + text + " ";
+        }
+    if (modsText.empty())
+        return;
+    modsText = sectionName + " " + modsText;
+    owner->EmitScenarioLine(scenario, lines, "RES_MODS", modsText);
+}
+
+template <class T> void HkResources<T>::ApplyMods() {
+    std::size_t begin = 0;
+    while (begin < modsText.size()) {
+        std::size_t end = modsText.find(' ', begin);
+        if (end == std::string::npos)
+            end = modsText.size();
+        const std::string item = modsText.substr(begin, end - begin);
+        begin = end + 1;
+        if (item.empty())
+            continue;
+        const std::size_t colon = item.find(':');
+        const std::string name = item.substr(0, colon);
+        const std::string value = colon == std::string::npos ? std::string() : item.substr(colon + 1);
+        if (T *record = Find(name))
+            owner->ApplyRecordMods(name, value, record);
+    }
+}
+
+template <class T>
+void HkResources<T>::WriteResourceLines(FILEHANDLE scenario, std::vector<std::string> *lines) {
+    for (const std::string &line : scenarioLines)
+        owner->EmitScenarioLine(scenario, lines, "RESOURCE", sectionName + " " + line);
+}
 
 template <class T> std::string HkResources<T>::DecodeString(std::string token) {
     if (token == "NONE" || token == "NEW")

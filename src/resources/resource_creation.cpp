@@ -8,6 +8,7 @@ void HULLKIT::BuildResources() {
     ReadResourceLines();
     ReadResModsLines();
     CreateResourceTables();
+    ApplyResourceMods();
 }
 
 void HULLKIT::CreateResourceTables() {
@@ -30,7 +31,7 @@ void HULLKIT::CreateResourceTables() {
     SeparationTable.CreateAll();
     AeroTable.CreateAll();
 
-    // The host keeps the beacon specifications by pointer; the records stay put.
+    // The host keeps the beacon parameter blocks by pointer; the records stay put.
     for (int32_t i = 0; i < BeaconTable.Count(); ++i)
         if (BEACON_REC *beacon = BeaconTable.At(i))
             AddBeacon(&beacon->spec);

@@ -63,6 +63,24 @@ void HostProbe::clbkFocusChanged(bool getfocus, OBJHANDLE, OBJHANDLE) {
     Record(getfocus ? "focus" : "unfocus");
 }
 
+bool HostProbe::clbkLoadGenericCockpit() {
+    Record("cockpit");
+    if (!hudPen)
+        hudPen = oapiCreatePen(1, 2, 0x00ff00);
+    return true;
+}
+
+bool HostProbe::clbkDrawHUD(int, const HUDPAINTSPEC *hps, oapi::Sketchpad *skp) {
+    skp->SetPen(hudPen);
+    skp->MoveTo(0, 0);
+    skp->LineTo(hps->W, hps->H);
+    skp->Line(hps->W, 0, 0, hps->H);
+    skp->SetTextColor(0x0000ff);
+    const std::string name = std::string("<") + GetName() + ">";
+    skp->Text(hps->CX, hps->CY, name.c_str(), static_cast<int>(name.size()));
+    return true;
+}
+
 void HostProbe::clbkPreStep(double simt, double, double) {
     ++frames;
     Record("preStep");

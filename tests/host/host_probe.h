@@ -22,6 +22,10 @@ class HostProbe : public VESSEL3 {
     void clbkSaveState(FILEHANDLE scn) override;
     void clbkPostCreation() override;
     void clbkFocusChanged(bool getfocus, OBJHANDLE hNewVessel, OBJHANDLE hOldVessel) override;
+    // Records "cockpit"; the head-up display gets a cross of two lines in the
+    // cockpit's pen and the vessel's name in angle brackets.
+    bool clbkLoadGenericCockpit() override;
+    bool clbkDrawHUD(int mode, const HUDPAINTSPEC *hps, oapi::Sketchpad *skp) override;
     void clbkPreStep(double simt, double simdt, double mjd) override;
     int clbkConsumeBufferedKey(DWORD key, bool down, char *kstate) override;
     int clbkConsumeDirectKey(char *kstate) override;
@@ -30,6 +34,7 @@ class HostProbe : public VESSEL3 {
     std::string keys;
     int heldM = 0, heldJ = 0, heldCtrl = 0;
     double mainLevel = 0.0;
+    oapi::Pen *hudPen = nullptr;
 
   private:
     void Record(const std::string &what) const;

@@ -60,6 +60,7 @@ TEST_F(WorldScenarioTest, CallbacksComeInTheHostOrder) {
                                  "A postCreation",
                                  "B postCreation",
                                  "B focus",
+                                 "B cockpit",
                                  "A preStep",
                                  "B preStep",
                              }));

@@ -1,6 +1,6 @@
 // The records that only describe: cameras, aero data, children, separations,
 // wrecks, sounds and floodlight sets, with beacons and particle streams, whose
-// specifications the host receives.
+// parameter blocks the host receives.
 #include "resource_fixture.h"
 
 namespace {
@@ -186,7 +186,7 @@ TEST_F(ResourceTest, BeaconsReachTheHostAsPointersIntoTheirRecords) {
     EXPECT_FALSE(v.beacons[0]->active);
 }
 
-TEST_F(ResourceTest, ParticleSpecificationTakesTheSurfaceOfItsTexture) {
+TEST_F(ResourceTest, ParticleParametersTakeTheSurfaceOfTheirTexture) {
     Common(kDescriptiveHeaders);
     Class("Textures = {\n  txSmoke PARTICLE Smoke\n}\n"
           "Particles = {\n"

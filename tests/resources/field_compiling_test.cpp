@@ -60,7 +60,7 @@ TEST_F(ResourceTest, FieldsAreCompiledByTheirLettersWithDefaultsForWhatALineDoes
     EXPECT_EQ(t.GetInt("quoted", "Flag"), 0);
     EXPECT_DOUBLE_EQ(t.GetDouble("quoted", "Value"), 3.0);
 
-    // A stream cut short keeps the zero specification for what is missing.
+    // A stream cut short keeps zeroed parameters for what is missing.
     PARTICLESTREAMSPEC cut = t.GetParticleSpec("tail", "Spec");
     EXPECT_DOUBLE_EQ(cut.srcsize, 1.0);
     EXPECT_DOUBLE_EQ(cut.srcrate, 2.0);

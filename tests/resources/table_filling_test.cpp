@@ -40,7 +40,8 @@ TEST_F(ResourceTest, ScenarioResourceLinesReplaceOrAddRecordsAndAreKept) {
 
     ASSERT_EQ(Host().propellants.size(), 4u);
     EXPECT_DOUBLE_EQ(Host().propellants[0]->maxMass, 10.0);
-    EXPECT_DOUBLE_EQ(Host().propellants[0]->mass, 10.0);
+    // The saved fraction applies to the capacity the scenario gave.
+    EXPECT_DOUBLE_EQ(Host().propellants[0]->mass, 5.0);
     EXPECT_EQ(p.MainTank, Host().propellants[0]->Handle());
 }
 

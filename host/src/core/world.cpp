@@ -177,6 +177,9 @@ void World::SetFocus(Vessel *v) {
         static_cast<VESSEL2 *>(old->iface)->clbkFocusChanged(false, v ? v->Handle() : nullptr, old->Handle());
     if (v && v->iface)
         static_cast<VESSEL2 *>(v->iface)->clbkFocusChanged(true, v->Handle(), old ? old->Handle() : nullptr);
+    // The cockpit view is generic: the new focus vessel builds it.
+    if (v && v->iface && camera.cockpitMode == COCKPIT_GENERIC)
+        static_cast<VESSEL2 *>(v->iface)->clbkLoadGenericCockpit();
 }
 
 void World::Frame(double realDt) {

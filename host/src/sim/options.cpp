@@ -56,6 +56,8 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
     run.add_option("--save", o.savePath, "Write the scenario at the end to FILE")->type_name("FILE");
     run.add_option("--state", o.statePath, "Write the host-side state at the end to FILE as JSON")
         ->type_name("FILE");
+    run.add_option("--hud", o.hudPath, "Render the focus vessel's head-up display at the end to FILE as SVG")
+        ->type_name("FILE");
     run.add_option("--keys", o.keysPath, "Key script for the focus vessel: lines \"TIME KEY [SECONDS]\"")
         ->type_name("FILE");
     run.add_option("--log", o.logPath, "Write the host's log to FILE (default: no log file)")

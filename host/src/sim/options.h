@@ -16,6 +16,7 @@ struct RunOptions {
     std::optional<unsigned> seed;
     std::string savePath;            // empty: none
     std::string statePath;           // empty: none
+    std::string hudPath;             // SVG of the focus vessel's head-up display; empty: none
     std::string keysPath;            // empty: none
     std::string logPath;             // empty: no log file
     std::string telemetryPath;       // CSV of the tracked vessels; empty: none

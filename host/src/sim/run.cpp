@@ -13,6 +13,7 @@
 #include "run_telemetry.h"
 #include "scenario/atomic_write.h"
 #include "scenario/scenario_world.h"
+#include "screen/hud_render.h"
 #include "state_json.h"
 
 namespace hullhost::sim {
@@ -108,6 +109,7 @@ void RunScenario(const RunOptions &options) {
     const std::string scenarioPath = FindScenario(options.scenario, root.string());
     const std::string savePath = OutputPath(options.savePath, "--save");
     const std::string statePath = OutputPath(options.statePath, "--state");
+    const std::string hudPath = OutputPath(options.hudPath, "--hud");
     const std::string logPath = OutputPath(options.logPath, "--log");
     const std::string telemetryPath = OutputPath(options.telemetryPath, "--telemetry");
     const std::string plotPath = OutputPath(options.plotPath, "--plot");
@@ -137,6 +139,8 @@ void RunScenario(const RunOptions &options) {
             WorldState(world).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
     if (!savePath.empty())
         scenarioText = CaptureScenario(world, scenario).Text();
+    if (!hudPath.empty())
+        WriteFileAtomically(hudPath, HudSvg(DrawFocusHud(world), world));
     if (stateText)
         WriteFileAtomically(statePath, *stateText);
     if (scenarioText)

@@ -1,6 +1,6 @@
 // The beacon record. Its name is only its key in the table. The host keeps
-// the specification by pointer once the beacons are added, and the
-// specification points at the record's own position and colour.
+// the parameter block by pointer once the beacons are added, and the
+// parameter block points at the record's own position and colour.
 #include "frame/hullkit.h"
 
 template <> void HkResources<BEACON_REC>::ParseRecord(std::string name, BEACON_REC *record) {

@@ -1,10 +1,10 @@
-// The particle stream record: its specification and the texture it is drawn
-// with. The host copies the specification when a stream is added.
+// The particle stream record: its stream parameters and the texture it is drawn
+// with. The host copies the parameters when a stream is added.
 #include "frame/hullkit.h"
 
 template <> void HkResources<PARTICLE_REC>::ParseRecord(std::string name, PARTICLE_REC *record) {
     record->name = name;
-    // The compiled specification has no texture; a record parsed again starts
+    // The compiled parameters have no texture; a record parsed again starts
     // from it too.
     record->spec = GetParticleSpec(name, "PSS");
     record->tex = GetString(name, "Tex");

@@ -40,7 +40,7 @@ template <> void HkResources<THRUSTER_REC>::ParseRecord(std::string name, THRUST
 
     record->stream = nullptr;
     if (!record->ps.empty()) {
-        // The host keeps the specification's address: it stays in the particle record.
+        // The host keeps the parameters' address: it stays in the particle record.
         PARTICLE_REC *particle = owner->ParticleTable.Find(record->ps);
         if (particle) {
             const VECTOR3 &p = record->psPos;

@@ -1,4 +1,4 @@
-// A particle stream specification, used by exhausts, fire, contrail and dust.
+// The parameters of a particle stream, used by exhausts, fire, contrail and dust.
 #pragma once
 
 #include <string>
