@@ -4,46 +4,35 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <strings.h>
 
 #include "config/text_ops.h"
 #include "frame/hullkit.h"
-
-namespace {
-
-bool Begins(const char *line, const char *key) { return strncasecmp(line, key, std::strlen(key)) == 0; }
-
-std::string Behind(const char *line, const char *key) {
-    const char *value = line + std::strlen(key);
-    return *value == ' ' ? value + 1 : value;
-}
-
-} // namespace
+#include "scenario/scenario_keys.h"
 
 void HULLKIT::ParseScenarioLineLate(char *line) {
-    if (Begins(line, "HK_FLAGS")) {
+    if (BeginsWithKey(line, "HK_FLAGS")) {
         int autopilot = 0, autoSwitch = 0;
         const int read = std::sscanf(line + 8, "%d %d", &autopilot, &autoSwitch);
         if (read >= 1)
             AutopilotActive = autopilot == 1;
         if (read >= 2)
             AutoSwitchFocus = autoSwitch == 1;
-    } else if (Begins(line, "FOCUS")) {
+    } else if (BeginsWithKey(line, "FOCUS")) {
         int focus = 0;
         if (std::sscanf(line + 5, "%d", &focus) == 1)
             FocusEnabled = focus == 1;
-    } else if (Begins(line, "CAMERA")) {
+    } else if (BeginsWithKey(line, "CAMERA")) {
         char name[50];
         if (std::sscanf(line + 6, "%49s", name) == 1)
             CurrentCamera = name;
-    } else if (Begins(line, "MESH_TEXTURE")) {
+    } else if (BeginsWithKey(line, "MESH_TEXTURE")) {
         char mesh[50], texture[50];
         int index = 0;
         if (std::sscanf(line + 12, "%49s %d %49s", mesh, &index, texture) == 3)
             SetMeshTexture(mesh, index, texture, true);
-    } else if (Begins(line, "MESHGROUPVIS")) {
+    } else if (BeginsWithKey(line, "MESHGROUPVIS")) {
         // Items "mesh:group:hidden" at blanks; doubles aren't looked for.
-        for (std::string item : SplitQuoted(Behind(line, "MESHGROUPVIS"))) {
+        for (std::string item : SplitQuoted(TextBehindKey(line, "MESHGROUPVIS"))) {
             if (item.empty())
                 continue;
             const std::vector<std::string> parts = SplitBy(item, ':');
@@ -53,18 +42,18 @@ void HULLKIT::ParseScenarioLineLate(char *line) {
             const bool hidden = parts.size() > 2 && std::atoi(parts[2].c_str()) == 1;
             meshGroupVis.push_back({parts[0], group, hidden});
         }
-    } else if (Begins(line, "CONDITIONAL_SEQUENCE")) {
+    } else if (BeginsWithKey(line, "CONDITIONAL_SEQUENCE")) {
         // The name is the first word; the state text follows behind one blank.
-        const std::string value = Behind(line, "CONDITIONAL_SEQUENCE");
+        const std::string value = TextBehindKey(line, "CONDITIONAL_SEQUENCE");
         const std::size_t begin = value.find_first_not_of(' ');
         if (begin == std::string::npos)
             return;
         const std::size_t end = std::min(value.find(' ', begin), value.size());
         const std::string states = end + 1 < value.size() ? value.substr(end + 1) : std::string();
         StartConditionalSequence(value.substr(begin, end - begin), states.c_str());
-    } else if (Begins(line, "TIMED_SEQUENCE")) {
+    } else if (BeginsWithKey(line, "TIMED_SEQUENCE")) {
         // "name, clock": the comma ends the name, which may hold blanks.
-        const std::string value = Behind(line, "TIMED_SEQUENCE");
+        const std::string value = TextBehindKey(line, "TIMED_SEQUENCE");
         const std::size_t comma = value.find(',');
         if (comma == 0 || value.empty())
             return;
@@ -72,8 +61,8 @@ void HULLKIT::ParseScenarioLineLate(char *line) {
         if (comma != std::string::npos)
             std::sscanf(value.c_str() + comma + 1, "%lf", &clock);
         StartTimedSequence(value.substr(0, comma), clock);
-    } else if (Begins(line, "PARENT")) {
-        std::string value = Behind(line, "PARENT");
+    } else if (BeginsWithKey(line, "PARENT")) {
+        std::string value = TextBehindKey(line, "PARENT");
         const std::vector<std::string> tokens = SplitBy(value, ' ');
         if (tokens.empty())
             return;

@@ -78,7 +78,7 @@ TEST(HudSvg, WellFormedWithEscapedTextsAndTheAnnotationsLines) {
     EXPECT_EQ(texts[0].text, "x<y>");
     EXPECT_EQ(texts[1].text, "a<b & \"c\"");
     EXPECT_EQ(texts[1].attributes.at("fill"), "#ff8000");
-    EXPECT_EQ(texts[2].text, "second line");
+    EXPECT_EQ(texts[2].text, "second? line"); // a control character becomes ?
 }
 
 class HullsimHudTest : public hosttest::HullsimFixture {};

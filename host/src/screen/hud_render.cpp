@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "VesselAPI.h"
+#include "core/xml_text.h"
 
 namespace hullhost {
 
@@ -21,31 +22,6 @@ std::string Colour(DWORD c) {
 std::string Colour(const VECTOR3 &c) {
     auto channel = [](double v) { return static_cast<DWORD>(std::clamp(v, 0.0, 1.0) * 255.0 + 0.5); };
     return Colour(channel(c.x) | channel(c.y) << 8 | channel(c.z) << 16);
-}
-
-std::string Escaped(const std::string &text) {
-    std::string out;
-    for (char ch : text) {
-        switch (ch) {
-        case '&':
-            out += "&amp;";
-            break;
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        default:
-            // Control characters have no place in XML 1.0 text.
-            if (static_cast<unsigned char>(ch) >= 0x20 || ch == '\t')
-                out += ch;
-        }
-    }
-    return out;
 }
 
 std::string Stroke(const HudShape &s) {
@@ -73,7 +49,7 @@ void WriteShape(std::ostringstream &out, const HudShape &s) {
         break;
     case HudShape::TEXT:
         out << "  <text x=\"" << s.x0 << "\" y=\"" << s.y0 << "\" fill=\"" << Colour(s.colour)
-            << "\" dominant-baseline=\"hanging\">" << Escaped(s.text) << "</text>\n";
+            << "\" dominant-baseline=\"hanging\">" << EscapeXml(s.text) << "</text>\n";
         break;
     }
 }
@@ -110,7 +86,7 @@ std::string HudSvg(const HudSketchpad &drawing, const World &world, int width, i
         for (std::string line; std::getline(lines, line); y += size * 1.2)
             out << "  <text x=\"" << note->x1 * width << "\" y=\"" << y << "\" fill=\""
                 << Colour(note->colour) << "\" font-size=\"" << size << "\" dominant-baseline=\"hanging\">"
-                << Escaped(line) << "</text>\n";
+                << EscapeXml(line) << "</text>\n";
     }
     out << "</svg>\n";
     return out.str();

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <string>
 
+#include "core/xml_text.h"
+
 namespace hullhost::telemetry {
 
 namespace {
@@ -40,34 +42,6 @@ struct Plot {
         return kHeight - kBottom - (v - r.lo) / (r.hi - r.lo) * (kHeight - kTop - kBottom);
     }
 };
-
-// Text with XML's special characters written as entities, for element text
-// and attribute values alike.
-std::string EscapeXml(const std::string &text) {
-    std::string out;
-    for (char c : text) {
-        switch (c) {
-        case '&':
-            out += "&amp;";
-            break;
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        case '\'':
-            out += "&apos;";
-            break;
-        default: // control characters have no place in XML, not even as entities
-            out += static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r' ? '?' : c;
-        }
-    }
-    return out;
-}
 
 std::string Number(double v) {
     char text[32];
