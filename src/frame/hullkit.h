@@ -153,6 +153,7 @@ class HULLKIT : public VESSEL3 {
     void RemoveSecondEvent(VesselCall call);
     void RemoveMinuteEvent(VesselCall call);
     bool HasUpdater(VesselCall call) const;
+    bool AdmitTimerEvent(std::vector<VesselCall> &list, VesselCall call);
     void WalkUpdaters();
 
     // The scenario texts of the running lists; empty when there is nothing.

@@ -19,47 +19,43 @@ template <class List> bool Contains(const List &list, VesselCall call) {
 
 } // namespace
 
-void HULLKIT::AddOneShot(double delay, VesselCall call) {
+// An event is admitted to a list once: a name that no table holds is a
+// programming error, and an event already in the list keeps its entry.
+// True when the event was appended as the list's first entry.
+bool HULLKIT::AdmitTimerEvent(std::vector<VesselCall> &list, VesselCall call) {
     if (TimerName(call).empty())
         UnknownTimer();
-    if (Contains(OneShotEvents, call))
+    if (Contains(list, call))
+        return false;
+    list.push_back(call);
+    return true;
+}
+
+void HULLKIT::AddOneShot(double delay, VesselCall call) {
+    if (!AdmitTimerEvent(OneShotEvents, call))
         return;
-    OneShotEvents.push_back(call);
     OneShotTimes.push_back(oapiGetSimTime() + delay);
     if (OneShotEvents.size() == 1)
         AddUpdater(&HULLKIT::H_TIMER_1T);
 }
 
 void HULLKIT::AddEngineOneShot(double engineSeconds, VesselCall call) {
-    if (TimerName(call).empty())
-        UnknownTimer();
-    if (Contains(EngineEvents, call))
+    if (!AdmitTimerEvent(EngineEvents, call))
         return;
-    EngineEvents.push_back(call);
     EngineTimes.push_back(engineSeconds);
     if (EngineEvents.size() == 1)
         AddUpdater(&HULLKIT::H_TIMER_1T_ME);
 }
 
 void HULLKIT::AddSecondEvent(VesselCall call) {
-    if (TimerName(call).empty())
-        UnknownTimer();
-    if (Contains(SecondEvents, call))
-        return;
-    SecondEvents.push_back(call);
-    if (SecondEvents.size() == 1) {
+    if (AdmitTimerEvent(SecondEvents, call) && SecondEvents.size() == 1) {
         AddUpdater(&HULLKIT::H_TIMER_P1S);
         NextSecond = oapiGetSimTime() + 1.0;
     }
 }
 
 void HULLKIT::AddMinuteEvent(VesselCall call) {
-    if (TimerName(call).empty())
-        UnknownTimer();
-    if (Contains(MinuteEvents, call))
-        return;
-    MinuteEvents.push_back(call);
-    if (MinuteEvents.size() == 1) {
+    if (AdmitTimerEvent(MinuteEvents, call) && MinuteEvents.size() == 1) {
         AddUpdater(&HULLKIT::H_TIMER_P10M);
         NextMinute = oapiGetSimTime() + 600.0;
     }

@@ -24,52 +24,38 @@ VesselCall CallNamed(const std::string &name, NameTable framework, NameTable sta
 
 } // namespace
 
-std::string HULLKIT::UpdatersText() const {
-    std::string text;
-    for (VesselCall call : Updaters) {
-        std::string name = UpdaterName(call);
-        if (!name.empty())
-            text += name + ", ";
-    }
-    return text;
-}
-
-std::string HULLKIT::EngineTimersText() const {
-    std::string text;
-    for (size_t i = 0; i < EngineEvents.size(); ++i) {
-        std::string name = TimerName(EngineEvents[i]);
-        if (!name.empty())
-            text += name + ":" + Seconds(EngineTimes[i]) + ", ";
-    }
-    return text;
-}
-
-std::string HULLKIT::OneShotTimersText() const {
-    std::string text;
-    for (size_t i = 0; i < OneShotEvents.size(); ++i) {
-        std::string name = TimerName(OneShotEvents[i]);
-        if (!name.empty())
-            text += name + ":" + Seconds(OneShotTimes[i] - oapiGetSimTime()) + ", ";
-    }
-    return text;
-}
-
 namespace {
 
-std::string EventNames(const HULLKIT &self, const std::vector<VesselCall> &events) {
+using NameOf = std::string (HULLKIT::*)(VesselCall) const;
+
+// "NAME, " for each call with a name, and with `seconds` "NAME:S.SSSSSS, ";
+// calls without a name are left out.
+std::string ListText(const HULLKIT &self, NameOf nameOf, const std::vector<VesselCall> &calls,
+                     const std::vector<double> *seconds = nullptr, double offset = 0.0) {
     std::string text;
-    for (VesselCall call : events) {
-        std::string name = self.TimerName(call);
-        if (!name.empty())
-            text += name + ", ";
+    for (size_t i = 0; i < calls.size(); ++i) {
+        std::string name = (self.*nameOf)(calls[i]);
+        if (name.empty())
+            continue;
+        text += name;
+        if (seconds)
+            text += ":" + Seconds((*seconds)[i] - offset);
+        text += ", ";
     }
     return text;
 }
 
 } // namespace
 
-std::string HULLKIT::SecondEventsText() const { return EventNames(*this, SecondEvents); }
-std::string HULLKIT::MinuteEventsText() const { return EventNames(*this, MinuteEvents); }
+std::string HULLKIT::UpdatersText() const { return ListText(*this, &HULLKIT::UpdaterName, Updaters); }
+std::string HULLKIT::EngineTimersText() const {
+    return ListText(*this, &HULLKIT::TimerName, EngineEvents, &EngineTimes);
+}
+std::string HULLKIT::OneShotTimersText() const {
+    return ListText(*this, &HULLKIT::TimerName, OneShotEvents, &OneShotTimes, oapiGetSimTime());
+}
+std::string HULLKIT::SecondEventsText() const { return ListText(*this, &HULLKIT::TimerName, SecondEvents); }
+std::string HULLKIT::MinuteEventsText() const { return ListText(*this, &HULLKIT::TimerName, MinuteEvents); }
 
 // The written commas become blanks in the split, so "A, B, " and "A B" read
 // alike. Names that no table holds are passed over.

@@ -3,17 +3,14 @@
 
 #include "DrawAPI.h"
 #include "OrbiterAPI.h"
+#include "core/handle_lookup.h"
 #include "core/world.h"
 
 using hullhost::Annotation;
 using hullhost::World;
 
 namespace {
-Annotation *FindNote(NOTEHANDLE h) {
-    auto &notes = World::Current().annotations;
-    auto it = std::find_if(notes.begin(), notes.end(), [h](auto &n) { return n->Handle() == h; });
-    return it == notes.end() ? nullptr : it->get();
-}
+Annotation *FindNote(NOTEHANDLE h) { return hullhost::FindByHandle(World::Current().annotations, h); }
 } // namespace
 
 void oapiWriteLog(const char *line) { World::Current().WriteLog(line ? line : ""); }
@@ -30,14 +27,7 @@ NOTEHANDLE oapiCreateAnnotation(bool exclusive, double size, const VECTOR3 &col)
     return notes.back()->Handle();
 }
 
-bool oapiDelAnnotation(NOTEHANDLE h) {
-    auto &notes = World::Current().annotations;
-    auto it = std::find_if(notes.begin(), notes.end(), [h](auto &n) { return n->Handle() == h; });
-    if (it == notes.end())
-        return false;
-    notes.erase(it);
-    return true;
-}
+bool oapiDelAnnotation(NOTEHANDLE h) { return hullhost::EraseByHandle(World::Current().annotations, h); }
 
 void oapiAnnotationSetPos(NOTEHANDLE h, double x1, double y1, double x2, double y2) {
     if (auto *n = FindNote(h)) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "VesselAPI.h"
+#include "core/handle_lookup.h"
 #include "core/vessel.h"
 #include "core/world.h"
 #include "physics/flight_model.h"
@@ -11,12 +12,7 @@ using hullhost::Vessel;
 
 namespace {
 
-Attachment *Find(const Vessel &v, ATTACHMENTHANDLE h) {
-    for (auto &a : v.attachments)
-        if (a->Handle() == h)
-            return a.get();
-    return nullptr;
-}
+Attachment *Find(const Vessel &v, ATTACHMENTHANDLE h) { return hullhost::FindByHandle(v.attachments, h); }
 
 void Release(Attachment &parentPoint) {
     if (Attachment *childPoint = parentPoint.counterpart) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "VesselAPI.h"
+#include "core/handle_lookup.h"
 #include "core/vessel.h"
 
 double VESSEL::GetSize() const { return vessel->size; }
@@ -128,13 +129,6 @@ AIRFOILHANDLE VESSEL::CreateAirfoil3(AIRFOIL_ORIENTATION align, const VECTOR3 &r
     return vessel->airfoils.back()->Handle();
 }
 
-bool VESSEL::DelAirfoil(AIRFOILHANDLE h) const {
-    auto &foils = vessel->airfoils;
-    auto it = std::find_if(foils.begin(), foils.end(), [h](auto &f) { return f->Handle() == h; });
-    if (it == foils.end())
-        return false;
-    foils.erase(it);
-    return true;
-}
+bool VESSEL::DelAirfoil(AIRFOILHANDLE h) const { return hullhost::EraseByHandle(vessel->airfoils, h); }
 
 void VESSEL::ClearAirfoilDefinitions() const { vessel->airfoils.clear(); }

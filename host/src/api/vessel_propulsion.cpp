@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "VesselAPI.h"
+#include "core/handle_lookup.h"
 #include "core/manual_control.h"
 #include "core/vessel.h"
 #include "core/world.h"
@@ -10,16 +11,7 @@ using hullhost::Propellant;
 using hullhost::Thruster;
 using hullhost::ThrusterGroup;
 
-namespace {
-
-template <class T, class H> T *Find(const std::vector<std::unique_ptr<T>> &list, H handle) {
-    for (auto &p : list)
-        if (p->Handle() == handle)
-            return p.get();
-    return nullptr;
-}
-
-} // namespace
+using hullhost::FindByHandle;
 
 PROPELLANT_HANDLE VESSEL::CreatePropellantResource(double maxmass, double mass, double efficiency) const {
     auto p = std::make_unique<Propellant>();
@@ -31,7 +23,7 @@ PROPELLANT_HANDLE VESSEL::CreatePropellantResource(double maxmass, double mass, 
 }
 
 void VESSEL::DelPropellantResource(PROPELLANT_HANDLE &ph) const {
-    Propellant *p = Find(vessel->propellants, ph);
+    Propellant *p = FindByHandle(vessel->propellants, ph);
     if (!p)
         return;
     for (auto &t : vessel->thrusters)
@@ -54,31 +46,31 @@ PROPELLANT_HANDLE VESSEL::GetPropellantHandleByIndex(DWORD idx) const {
 }
 
 double VESSEL::GetPropellantMaxMass(PROPELLANT_HANDLE ph) const {
-    Propellant *p = Find(vessel->propellants, ph);
+    Propellant *p = FindByHandle(vessel->propellants, ph);
     return p ? p->maxMass : 0.0;
 }
 
 void VESSEL::SetPropellantMaxMass(PROPELLANT_HANDLE ph, double maxmass) const {
-    if (Propellant *p = Find(vessel->propellants, ph)) {
+    if (Propellant *p = FindByHandle(vessel->propellants, ph)) {
         p->maxMass = std::max(maxmass, 0.0);
         p->mass = std::min(p->mass, p->maxMass);
     }
 }
 
 double VESSEL::GetPropellantMass(PROPELLANT_HANDLE ph) const {
-    Propellant *p = Find(vessel->propellants, ph);
+    Propellant *p = FindByHandle(vessel->propellants, ph);
     return p ? p->mass : 0.0;
 }
 
 void VESSEL::SetPropellantMass(PROPELLANT_HANDLE ph, double mass) const {
-    if (Propellant *p = Find(vessel->propellants, ph))
+    if (Propellant *p = FindByHandle(vessel->propellants, ph))
         p->mass = std::clamp(mass, 0.0, p->maxMass);
 }
 
 double VESSEL::GetTotalPropellantMass() const { return vessel->PropellantMass(); }
 
 double VESSEL::GetPropellantFlowrate(PROPELLANT_HANDLE ph) const {
-    Propellant *p = Find(vessel->propellants, ph);
+    Propellant *p = FindByHandle(vessel->propellants, ph);
     return p ? p->flowRate : 0.0;
 }
 
@@ -89,7 +81,7 @@ THRUSTER_HANDLE VESSEL::CreateThruster(const VECTOR3 &pos, const VECTOR3 &dir, d
     t->pos = pos;
     t->dir = unit(dir);
     t->maxThrust0 = maxth0;
-    t->propellant = Find(vessel->propellants, hp);
+    t->propellant = FindByHandle(vessel->propellants, hp);
     t->isp0 = isp0;
     t->ispRef = isp_ref;
     t->pRef = p_ref;
@@ -98,7 +90,7 @@ THRUSTER_HANDLE VESSEL::CreateThruster(const VECTOR3 &pos, const VECTOR3 &dir, d
 }
 
 bool VESSEL::DelThruster(THRUSTER_HANDLE &th) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     if (!t)
         return false;
     for (auto &g : vessel->groups)
@@ -127,42 +119,42 @@ THRUSTER_HANDLE VESSEL::GetThrusterHandleByIndex(DWORD idx) const {
 }
 
 void VESSEL::GetThrusterRef(THRUSTER_HANDLE th, VECTOR3 &pos) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     pos = t ? t->pos : VECTOR3{0, 0, 0};
 }
 
 void VESSEL::SetThrusterRef(THRUSTER_HANDLE th, const VECTOR3 &pos) const {
-    if (Thruster *t = Find(vessel->thrusters, th))
+    if (Thruster *t = FindByHandle(vessel->thrusters, th))
         t->pos = pos;
 }
 
 void VESSEL::GetThrusterDir(THRUSTER_HANDLE th, VECTOR3 &dir) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     dir = t ? t->dir : VECTOR3{0, 0, 1};
 }
 
 void VESSEL::SetThrusterDir(THRUSTER_HANDLE th, const VECTOR3 &dir) const {
-    if (Thruster *t = Find(vessel->thrusters, th))
+    if (Thruster *t = FindByHandle(vessel->thrusters, th))
         t->dir = unit(dir);
 }
 
 double VESSEL::GetThrusterMax0(THRUSTER_HANDLE th) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     return t ? t->maxThrust0 : 0.0;
 }
 
 void VESSEL::SetThrusterMax0(THRUSTER_HANDLE th, double maxth0) const {
-    if (Thruster *t = Find(vessel->thrusters, th))
+    if (Thruster *t = FindByHandle(vessel->thrusters, th))
         t->maxThrust0 = maxth0;
 }
 
 double VESSEL::GetThrusterIsp0(THRUSTER_HANDLE th) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     return t ? t->isp0 : 0.0;
 }
 
 void VESSEL::SetThrusterIsp(THRUSTER_HANDLE th, double isp0, double isp_ref, double p_ref) const {
-    if (Thruster *t = Find(vessel->thrusters, th)) {
+    if (Thruster *t = FindByHandle(vessel->thrusters, th)) {
         t->isp0 = isp0;
         t->ispRef = isp_ref;
         t->pRef = p_ref;
@@ -170,27 +162,27 @@ void VESSEL::SetThrusterIsp(THRUSTER_HANDLE th, double isp0, double isp_ref, dou
 }
 
 PROPELLANT_HANDLE VESSEL::GetThrusterResource(THRUSTER_HANDLE th) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     return t && t->propellant ? t->propellant->Handle() : nullptr;
 }
 
 void VESSEL::SetThrusterResource(THRUSTER_HANDLE th, PROPELLANT_HANDLE ph) const {
-    if (Thruster *t = Find(vessel->thrusters, th))
-        t->propellant = Find(vessel->propellants, ph);
+    if (Thruster *t = FindByHandle(vessel->thrusters, th))
+        t->propellant = FindByHandle(vessel->propellants, ph);
 }
 
 double VESSEL::GetThrusterLevel(THRUSTER_HANDLE th) const {
-    Thruster *t = Find(vessel->thrusters, th);
+    Thruster *t = FindByHandle(vessel->thrusters, th);
     return t ? t->level : 0.0;
 }
 
 void VESSEL::SetThrusterLevel(THRUSTER_HANDLE th, double level) const {
-    if (Thruster *t = Find(vessel->thrusters, th))
+    if (Thruster *t = FindByHandle(vessel->thrusters, th))
         t->level = std::clamp(level, 0.0, 1.0);
 }
 
 void VESSEL::IncThrusterLevel(THRUSTER_HANDLE th, double dlevel) const {
-    if (Thruster *t = Find(vessel->thrusters, th))
+    if (Thruster *t = FindByHandle(vessel->thrusters, th))
         t->level = std::clamp(t->level + dlevel, 0.0, 1.0);
 }
 
@@ -200,7 +192,7 @@ THGROUP_HANDLE VESSEL::CreateThrusterGroup(THRUSTER_HANDLE *th, int nth, THGROUP
     auto g = std::make_unique<ThrusterGroup>();
     g->type = thgt;
     for (int i = 0; th && i < nth; ++i)
-        if (Thruster *t = Find(vessel->thrusters, th[i]))
+        if (Thruster *t = FindByHandle(vessel->thrusters, th[i]))
             g->thrusters.push_back(t);
     if (thgt != THGROUP_USER)
         std::erase_if(vessel->groups, [thgt](auto &old) { return old->type == thgt; });
@@ -209,7 +201,7 @@ THGROUP_HANDLE VESSEL::CreateThrusterGroup(THRUSTER_HANDLE *th, int nth, THGROUP
 }
 
 bool VESSEL::DelThrusterGroup(THGROUP_HANDLE thg, bool delth) const {
-    ThrusterGroup *g = Find(vessel->groups, thg);
+    ThrusterGroup *g = FindByHandle(vessel->groups, thg);
     if (!g)
         return false;
     if (delth) {
@@ -228,12 +220,12 @@ THGROUP_HANDLE VESSEL::GetThrusterGroupHandle(THGROUP_TYPE thgt) const {
 }
 
 DWORD VESSEL::GetGroupThrusterCount(THGROUP_HANDLE thg) const {
-    ThrusterGroup *g = Find(vessel->groups, thg);
+    ThrusterGroup *g = FindByHandle(vessel->groups, thg);
     return g ? static_cast<DWORD>(g->thrusters.size()) : 0;
 }
 
 THRUSTER_HANDLE VESSEL::GetGroupThruster(THGROUP_HANDLE thg, DWORD idx) const {
-    ThrusterGroup *g = Find(vessel->groups, thg);
+    ThrusterGroup *g = FindByHandle(vessel->groups, thg);
     return g && idx < g->thrusters.size() ? g->thrusters[idx]->Handle() : nullptr;
 }
 
@@ -243,7 +235,7 @@ double VESSEL::GetThrusterGroupLevel(THGROUP_TYPE thgt) const {
 }
 
 double VESSEL::GetThrusterGroupLevel(THGROUP_HANDLE thg) const {
-    ThrusterGroup *g = Find(vessel->groups, thg);
+    ThrusterGroup *g = FindByHandle(vessel->groups, thg);
     return g ? vessel->GroupLevel(*g) : 0.0;
 }
 
@@ -253,7 +245,7 @@ void VESSEL::SetThrusterGroupLevel(THGROUP_TYPE thgt, double level) const {
 }
 
 void VESSEL::SetThrusterGroupLevel(THGROUP_HANDLE thg, double level) const {
-    if (ThrusterGroup *g = Find(vessel->groups, thg))
+    if (ThrusterGroup *g = FindByHandle(vessel->groups, thg))
         vessel->SetGroupLevel(*g, level);
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "VesselAPI.h"
+#include "core/handle_lookup.h"
 #include "core/vessel.h"
 
 using hullhost::Exhaust;
@@ -13,12 +14,7 @@ using hullhost::Vessel;
 
 namespace {
 
-Thruster *FindThruster(const Vessel &v, THRUSTER_HANDLE h) {
-    for (auto &t : v.thrusters)
-        if (t->Handle() == h)
-            return t.get();
-    return nullptr;
-}
+Thruster *FindThruster(const Vessel &v, THRUSTER_HANDLE h) { return hullhost::FindByHandle(v.thrusters, h); }
 
 // The parameters of a stream that comes without any: a small grey plume.
 PARTICLESTREAMSPEC DefaultStreamSpec() {
@@ -64,26 +60,13 @@ UINT VESSEL::AddExhaust(THRUSTER_HANDLE th, double lscale, double wscale, SURFHA
 }
 
 UINT VESSEL::AddExhaust(THRUSTER_HANDLE th, double lscale, double wscale, double lofs, SURFHANDLE tex) const {
-    Exhaust e;
-    e.thruster = FindThruster(*vessel, th);
-    e.lscale = lscale;
-    e.wscale = wscale;
-    e.lofs = lofs;
-    e.tex = tex;
-    return AddExhaustOf(*vessel, e);
+    return AddExhaustOf(*vessel,
+                        {FindThruster(*vessel, th), lscale, wscale, lofs, false, {0, 0, 0}, {0, 0, 0}, tex});
 }
 
 UINT VESSEL::AddExhaust(THRUSTER_HANDLE th, double lscale, double wscale, const VECTOR3 &pos,
                         const VECTOR3 &dir, SURFHANDLE tex) const {
-    Exhaust e;
-    e.thruster = FindThruster(*vessel, th);
-    e.lscale = lscale;
-    e.wscale = wscale;
-    e.ownPosDir = true;
-    e.pos = pos;
-    e.dir = dir;
-    e.tex = tex;
-    return AddExhaustOf(*vessel, e);
+    return AddExhaustOf(*vessel, {FindThruster(*vessel, th), lscale, wscale, 0.0, true, pos, dir, tex});
 }
 
 bool VESSEL::DelExhaust(UINT idx) const {
@@ -131,7 +114,7 @@ PSTREAM_HANDLE VESSEL::AddParticleStream(PARTICLESTREAMSPEC *pss, const VECTOR3 
 }
 
 bool VESSEL::DelExhaustStream(PSTREAM_HANDLE ch) const {
-    return std::erase_if(vessel->streams, [ch](auto &s) { return s->Handle() == ch; }) > 0;
+    return hullhost::EraseByHandle(vessel->streams, ch);
 }
 
 // --- Beacons -----------------------------------------------------------------
