@@ -16,6 +16,12 @@ void *operator new(std::size_t size) {
         return p;
     throw std::bad_alloc();
 }
+// Modules make their vessels with the nothrow form. It takes its memory from
+// malloc too, so that the replaced delete below frees what it was given.
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
+    ++allocations;
+    return std::malloc(size ? size : 1);
+}
 // The counting operator new takes its memory from malloc; GCC can't see that
 // through inlined string code and would warn of a mismatch.
 #pragma GCC diagnostic push

@@ -52,6 +52,51 @@ std::vector<std::pair<double, double>> Points(const XmlElement &polyline) {
     return points;
 }
 
+// An axis label: its text, its value and where it sits along its axis.
+struct Label {
+    std::string text;
+    double value, position;
+};
+
+// The labels of the axis whose class is `axis`. Time labels are centred
+// under their tick; the others sit 4 px below theirs to centre on it.
+std::vector<Label> AxisLabels(const std::vector<XmlElement> &all, const std::string &axis) {
+    std::vector<Label> labels;
+    for (const XmlElement &e : Elements(all, "text"))
+        if (e.attributes.count("class") && e.attributes.at("class") == axis)
+            labels.push_back({e.text, std::stod(e.text),
+                              axis == "time-axis" ? std::stod(e.attributes.at("x"))
+                                                  : std::stod(e.attributes.at("y")) - 4});
+    return labels;
+}
+
+// Labels a person reads the axis by: evenly stepped (so distinct) by 1, 2,
+// 2.5 or 5 times a power of ten, from at or below `lo` to at or above `hi`,
+// and no "-0".
+void ExpectRoundLabels(const std::vector<Label> &labels, double lo, double hi) {
+    ASSERT_GE(labels.size(), 3u);
+    const double step = labels[1].value - labels[0].value;
+    ASSERT_GT(step, 0.0) << labels[0].text << " " << labels[1].text;
+    const double mantissa = step / std::pow(10.0, std::floor(std::log10(step) + 1e-9));
+    EXPECT_TRUE(std::ranges::any_of(std::vector{1.0, 2.0, 2.5, 5.0}, [&](double m) {
+        return std::abs(mantissa - m) < 1e-6;
+    })) << step;
+    for (size_t k = 0; k < labels.size(); ++k) {
+        EXPECT_NEAR(labels[k].value, labels[0].value + k * step, 1e-6 * step) << labels[k].text;
+        EXPECT_FALSE(labels[k].value == 0.0 && labels[k].text.starts_with("-")) << labels[k].text;
+    }
+    EXPECT_LE(labels.front().value, lo);
+    EXPECT_GE(labels.back().value, hi);
+}
+
+// A point drawn at `position` for `value` is where the axis labels put it.
+void ExpectOnScale(const std::vector<Label> &labels, double value, double position) {
+    const Label &a = labels.front(), &b = labels.back();
+    EXPECT_NEAR(position, a.position + (value - a.value) / (b.value - a.value) * (b.position - a.position),
+                0.1)
+        << value;
+}
+
 TEST(SvgChartTest, DrawsFourLinesPerVesselInsideThePlot) {
     const std::vector<TelemetrySeries> series = {
         {"Stage", {At(0, 200e3, 1500), At(10, 210e3, 1400), At(20, 230e3, 1300)}},
@@ -60,21 +105,13 @@ TEST(SvgChartTest, DrawsFourLinesPerVesselInsideThePlot) {
     ASSERT_EQ(all.front().name, "svg");
     const auto lines = Elements(all, "polyline");
     ASSERT_EQ(lines.size(), 8u); // altitude, apogee, perigee and mass of each
-    double lowest = 1e9, highest = -1e9;
     for (const XmlElement &line : lines) {
         const auto points = Points(line);
         ASSERT_EQ(points.size(), 3u) << line.attributes.at("points");
-        EXPECT_DOUBLE_EQ(points.front().first, 80.0); // time 0 at the left edge
-        EXPECT_DOUBLE_EQ(points.back().first, 880.0); // time 20 at the right edge
         for (const auto &[x, y] : points) {
-            lowest = std::min(lowest, y);
-            highest = std::max(highest, y);
+            EXPECT_TRUE(x >= 80 && x <= 880 && y >= 40 && y <= 480) << x << "," << y;
         }
     }
-    // The highest apogee and the largest mass reach the top, the lowest
-    // perigee and the smallest mass the bottom.
-    EXPECT_DOUBLE_EQ(lowest, 40.0);
-    EXPECT_DOUBLE_EQ(highest, 480.0);
     // The first series' apogee (dashed) line starts higher than its altitude.
     EXPECT_LT(Points(lines[1])[0].second, Points(lines[0])[0].second);
 
@@ -83,6 +120,41 @@ TEST(SvgChartTest, DrawsFourLinesPerVesselInsideThePlot) {
         legend.push_back(text.text);
     EXPECT_NE(std::find(legend.begin(), legend.end(), "Stage"), legend.end());
     EXPECT_NE(std::find(legend.begin(), legend.end(), "Payload"), legend.end());
+}
+
+// Each axis carries round, distinct labels that match where the lines are
+// drawn, whether the values span a sliver of their size, cross zero, stay
+// flat or need powers of ten.
+TEST(SvgChartTest, LabelsEachAxisWithRoundDistinctValues) {
+    struct Case {
+        double t0, t1, km0, km1, kg0, kg1;
+    } cases[] = {
+        {0, 5400, 199.9, 200, 1450, 1450}, // an orbit seen closely; a coasting stage
+        {0, 20, -6300, 210, 300, 1500},    // a perigee below the ground
+        {100, 100, 0, 0, 0, 0},            // one sample, all zero
+        {0, 3.2e7, 1e-6, 3e-6, 2e7, 2.5e7},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.t1);
+        TelemetrySample first = At(c.t0, c.km0 * 1000, c.kg0), last = At(c.t1, c.km1 * 1000, c.kg1);
+        first.apogeeAltitude = first.perigeeAltitude = first.altitude;
+        last.apogeeAltitude = last.perigeeAltitude = last.altitude;
+        const std::vector<XmlElement> all = ParseXml(Chart({{"V", {first, last}}}));
+        const auto time = AxisLabels(all, "time-axis"), km = AxisLabels(all, "km-axis"),
+                   mass = AxisLabels(all, "mass-axis");
+        ExpectRoundLabels(time, c.t0, c.t1);
+        ExpectRoundLabels(km, c.km0, c.km1);
+        ExpectRoundLabels(mass, c.kg0, c.kg1);
+        if (HasFatalFailure())
+            return;
+        const auto lines = Elements(all, "polyline");
+        const auto altitude = Points(lines[0]), kg = Points(lines[3]);
+        ExpectOnScale(time, c.t0, altitude.front().first);
+        ExpectOnScale(time, c.t1, altitude.back().first);
+        ExpectOnScale(km, c.km0, altitude.front().second);
+        ExpectOnScale(km, c.km1, altitude.back().second);
+        ExpectOnScale(mass, c.kg1, kg.back().second);
+    }
 }
 
 TEST(SvgChartTest, EscapesVesselNames) {
