@@ -95,22 +95,33 @@ TEST(Landed, VesselStaysPutAndTurnsWithTheEarth) {
     EXPECT_LT(dist(v.pos - earth.pos, start), 1e-3);
 }
 
-TEST(Landed, DroppedVesselComesToRestAndThrustLiftsItOff) {
-    World w(".");
+namespace {
+
+// A vessel let go `height` metres above the ground on the equator, level and
+// turning with the Earth.
+void DropOnEquator(World &w, Vessel &v, double height) {
     Body &earth = *w.Earth();
-    Vessel &v = w.AddBareVessel("lander");
-    v.emptyMass = 2000.0;
-    v.size = 4.0;
     VESSEL iface(v.Handle());
     VESSELSTATUS2 st{};
     st.version = 2;
     st.rbody = earth.Handle();
-    const VECTOR3 up = physics::Column(earth.rot, 0); // above longitude 0 on the equator
-    st.rpos = up * (earth.radius + 2.0 + 2.0);        // default feet 2 m below the centre
+    const VECTOR3 up = physics::Column(earth.rot, 0); // above longitude 0
+    st.rpos = up * (earth.radius + height);
     st.rvel = crossp(st.rpos, physics::Column(earth.equatorial, 1) * (PI2 / 86164.1));
     st.arot = physics::AnglesFromOrientation(
         physics::Columns(physics::Column(earth.rot, 2), up, crossp(physics::Column(earth.rot, 2), up)));
     iface.DefSetStateEx(&st);
+}
+
+} // namespace
+
+TEST(Landed, DroppedVesselComesToRestAndThrustLiftsItOff) {
+    World w(".");
+    Vessel &v = w.AddBareVessel("lander");
+    v.emptyMass = 2000.0;
+    v.size = 4.0;
+    VESSEL iface(v.Handle());
+    DropOnEquator(w, v, 2.0 + 2.0); // default feet 2 m below the centre
     RunFor(w, 20.0);
     EXPECT_EQ(iface.GetFlightStatus(), 1);
     EXPECT_NEAR(iface.GetAltitude(), 2.0, 0.1);
@@ -128,4 +139,32 @@ TEST(Landed, DroppedVesselComesToRestAndThrustLiftsItOff) {
     RunFor(w, 2.0);
     EXPECT_EQ(iface.GetFlightStatus(), 0);
     EXPECT_GT(iface.GetAltitude(), 10.0); // about g t^2 / 2 of climb
+}
+
+// Feet as stiff as a parked vessel's, without friction: the touchdown stays
+// stable at every frame length, and the vessel comes to rest, landed, where
+// it fell, then stays there.
+TEST(Landed, StiffFrictionlessFeetSettleAtAnyFrameLength) {
+    for (double accel : {1.0, 10.0, 100.0, 1000.0}) {
+        World w(".");
+        Vessel &v = w.AddBareVessel("piece");
+        v.emptyMass = 100.0;
+        v.pmi = {0.5, 0.5, 0.5};
+        const double stiffness = 1e9, damping = std::sqrt(1e8 * 1e9) * 2.0 * 0.9;
+        for (VECTOR3 p : {VECTOR3{0, -0.5, 0.5}, VECTOR3{-0.4, -0.5, -0.4}, VECTOR3{0.4, -0.5, -0.4}})
+            v.touchdown.push_back(TOUCHDOWNVTX{p, stiffness, damping, 0.0, 0.0});
+        VESSEL iface(v.Handle());
+        DropOnEquator(w, v, 0.5 + 1.0);
+        w.accel = accel;
+        RunFor(w, 60.0);
+        ASSERT_EQ(iface.GetFlightStatus(), 1) << "at " << accel << "x";
+        double lng, lat, radius;
+        iface.GetEquPos(lng, lat, radius);
+        EXPECT_NEAR(iface.GetAltitude(), 0.5, 0.01) << accel;
+        EXPECT_NEAR(lng * w.Earth()->radius, 0.0, 0.5) << accel;
+        const double heading = iface.GetYaw();
+        RunFor(w, 3600.0);
+        EXPECT_EQ(iface.GetFlightStatus(), 1) << accel;
+        EXPECT_NEAR(iface.GetYaw(), heading, 1e-9) << accel;
+    }
 }

@@ -12,6 +12,10 @@ namespace hullhost::physics {
 namespace {
 
 constexpr double kRestDeflection = 0.05; // [m] under the vessel's weight
+// Stiffer points are softened to this deflection under the vessel's weight,
+// and their damping held at critical: a stiffer spring would need substeps
+// too short to afford, and an explicit integrator with longer ones blows up.
+constexpr double kMinDeflection = 0.005; // [m]
 constexpr double kSlipSpeed = 0.05;      // below this friction fades linearly [m/s]
 
 VECTOR3 DefaultPoint(const Vessel &v, int i) {
@@ -39,13 +43,16 @@ TOUCHDOWNVTX TouchdownPoint(const Vessel &v, int i, double mass, double gravity)
     } else {
         p.pos = DefaultPoint(v, i);
     }
+    const double share = std::max(mass, 1.0) / 3.0;
     if (p.stiffness <= 0.0) {
-        const double share = std::max(mass, 1.0) / 3.0;
         p.stiffness = share * gravity / kRestDeflection;
         p.damping = 2.0 * std::sqrt(p.stiffness * share);
         p.mu = v.frictionLat;
         p.mu_lng = v.frictionLng;
+        return p;
     }
+    p.stiffness = std::min(p.stiffness, share * gravity / kMinDeflection);
+    p.damping = std::clamp(p.damping, 0.0, 2.0 * std::sqrt(p.stiffness * share));
     return p;
 }
 

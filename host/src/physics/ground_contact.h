@@ -4,7 +4,8 @@
 //
 // Points given in the three-point form (stiffness 0) get a stiffness that
 // lets the vessel's weight press them 5 cm into the ground, critical damping,
-// and the vessel's friction coefficients. A vessel without touchdown points
+// and the vessel's friction coefficients. Points given stiffer than a 5 mm
+// deflection under the vessel's weight are softened to it. A vessel without touchdown points
 // gets three default ones, scaled by its size.
 #pragma once
 

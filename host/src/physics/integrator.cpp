@@ -77,8 +77,12 @@ double ChooseStep(const Vessel &v, const Body *ref, const RigidState &s, const S
     }
     if (loads.contact && ref) {
         const double contactStep = 1.0 / std::max(ContactFrequency(v, *ref, loads.mass), 1e-3);
+        // Above the ground, a step may cover half the gap: falling from rest
+        // under gravity and the vessel's own forces, or at its speed.
         const double approach = length(s.v - SurfaceVelocity(*ref, s.r));
-        const double reach = gap > 0.5 && approach > 0.0 ? 0.5 * gap / approach : 0.0;
+        const double accel = SurfaceGravity(*ref) + length(loads.force) / std::max(loads.mass, 1e-6);
+        const double reach =
+            gap > 0.5 ? gap / (approach + std::sqrt(approach * approach + accel * gap)) : 0.0;
         h = std::min(h, std::max(contactStep, reach));
     }
     return std::max(h, kMinStep);
@@ -142,7 +146,7 @@ void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
         const AeroLoad aero = loads.air ? AerodynamicLoad(v, air) : AeroLoad{};
 
         double h = std::min(ChooseStep(v, ref, s, loads, air, aero.lift + aero.drag, gap), simdt - tau);
-        if (thrust.timeToEmpty < h && thrust.timeToEmpty > 1e-9) {
+        if (thrust.timeToEmpty < h) {
             h = thrust.timeToEmpty; // the burn ends within the step: end the step with it
         }
         const BodySnapshot mid = SnapshotAt(world, t0 + tau + 0.5 * h);

@@ -81,16 +81,14 @@ bool LeavesGround(const Vessel &v, const VECTOR3 &force, double mass) {
     const VECTOR3 up = unit(r);
     const VECTOR3 spin = SpinVector(body);
     // The ground must supply what turns the vessel with the surface, less
-    // gravity and the other forces.
+    // gravity and the other forces. Only a pull away from the ground frees
+    // it: what the ground holds sideways is its business, whatever the
+    // friction of the points, or a frictionless vessel at any latitude but
+    // the equator would slide off under the centripetal pull alone.
     const VECTOR3 centripetal = crossp(crossp(r, spin), spin);
     const VECTOR3 gravity = up * (-body.gm / dotp(r, r));
     const VECTOR3 support = (centripetal - gravity) * mass - force;
-    const double normal = dotp(support, up);
-    if (normal <= 0.0) {
-        return true;
-    }
-    const double mu = TouchdownPoint(v, 0, mass, SurfaceGravity(body)).mu_lng;
-    return length(support - up * normal) > mu * normal;
+    return dotp(support, up) <= 0.0;
 }
 
 } // namespace hullhost::physics

@@ -36,7 +36,8 @@ void SetLanded(Vessel &v, Body &body, double lng, double lat, double hdg, double
 void LandHere(Vessel &v, Body &body, const VECTOR3 &r, const MATRIX3 &R, double t);
 
 // Whether forces other than gravity and the ground (global frame, sum
-// `force`) lift or push a vessel of mass `mass` off the ground where it rests.
+// `force`) lift a vessel of mass `mass` off the ground where it rests: they
+// must outweigh it.
 bool LeavesGround(const Vessel &v, const VECTOR3 &force, double mass);
 
 } // namespace hullhost::physics

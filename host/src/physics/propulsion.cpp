@@ -8,6 +8,10 @@ namespace hullhost::physics {
 
 namespace {
 
+// What is left in a tank after a burn that would feed its thrusters for less
+// than this is a rounding residue, not a supply: the tank is empty.
+constexpr double kResidueTime = 1e-6; // [s]
+
 bool Fed(const Thruster &th) { return th.level > 0.0 && th.propellant && th.propellant->mass > 0.0; }
 
 } // namespace
@@ -72,7 +76,10 @@ void BurnPropellant(Vessel &v, double dt) {
             }
         }
         p->flowRate = flow;
-        p->mass = std::max(0.0, p->mass - flow * dt);
+        if (flow > 0.0) {
+            const double left = p->mass - flow * dt;
+            p->mass = left > flow * kResidueTime ? left : 0.0;
+        }
     }
 }
 
