@@ -6,6 +6,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "core/printable_text.h"
+
 namespace hullhost {
 
 namespace {
@@ -59,10 +61,11 @@ const Module &ModuleRegistry::ForClass(const std::string &className) {
         return Load(known->second);
     std::ifstream in(ClassFile(className));
     if (!in)
-        throw std::runtime_error("unknown vessel class '" + className + "': no file " + ClassFile(className));
+        throw std::runtime_error("unknown vessel class " + Quoted(className) + ": no file " +
+                                 ClassFile(className));
     std::string moduleName = ModuleKey(in);
     if (moduleName.empty())
-        throw std::runtime_error("vessel class '" + className + "' names no Module in " +
+        throw std::runtime_error("vessel class " + Quoted(className) + " names no Module in " +
                                  ClassFile(className));
     const Module &m = Load(moduleName);
     classModule_[className] = moduleName;

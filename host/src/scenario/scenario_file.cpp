@@ -8,6 +8,8 @@
 #include <set>
 #include <sstream>
 
+#include "core/printable_text.h"
+
 namespace hullhost {
 
 namespace {
@@ -91,7 +93,7 @@ class Parser {
                      word.find_first_of(kBlanks) == word.npos)
                 ReadOther(std::string(word.substr(6)));
             else
-                Fail(next_, "'" + std::string(word) + "' is outside any section");
+                Fail(next_, Quoted(word) + " is outside any section");
         }
         Check();
         return std::move(scn_);
@@ -139,7 +141,7 @@ class Parser {
         double mjd = 0.0;
         auto [end, ec] = std::from_chars(value.data(), value.data() + value.size(), mjd);
         if (value.empty() || ec != std::errc() || end != value.data() + value.size() || !std::isfinite(mjd))
-            Fail(next_, "bad date '" + std::string(value) + "': Date MJD needs a number");
+            Fail(next_, "bad date " + Quoted(value) + ": Date MJD needs a number");
         return mjd;
     }
 
@@ -149,7 +151,7 @@ class Parser {
         while (NextInSection("END_FOCUS", begin, line)) {
             auto [key, name] = SplitWord(line);
             if (key != "Ship" || name.empty())
-                Fail(next_, "'" + std::string(Trim(line)) + "' in BEGIN_FOCUS: expected 'Ship name'");
+                Fail(next_, Quoted(Trim(line)) + " in BEGIN_FOCUS: expected 'Ship name'");
             scn_.focus = std::string(Trim(name));
             focusLine_ = next_;
         }
@@ -174,14 +176,14 @@ class Parser {
     void ReadVessel(std::string_view header, size_t headerLine) {
         size_t colon = header.find(':');
         if (colon == std::string_view::npos)
-            Fail(headerLine, "ship line '" + std::string(header) +
-                                 "' has no ':' between the vessel's name and its class");
+            Fail(headerLine,
+                 "ship line " + Quoted(header) + " has no ':' between the vessel's name and its class");
         VesselBlock block{
             std::string(Trim(header.substr(0, colon))), std::string(Trim(header.substr(colon + 1))), {}};
         if (block.name.empty() || block.className.empty())
-            Fail(headerLine, "ship line '" + std::string(header) + "' needs 'name:Folder\\Class'");
+            Fail(headerLine, "ship line " + Quoted(header) + " needs 'name:Folder\\Class'");
         if (!names_.insert(block.name).second)
-            Fail(headerLine, "vessel '" + block.name + "' is named twice");
+            Fail(headerLine, "vessel " + Quoted(block.name) + " is named twice");
         while (next_ < lines_.size()) {
             std::string_view line = lines_[next_++];
             std::string_view word = Trim(line);
@@ -194,14 +196,14 @@ class Parser {
             if (!IsSkipped(line))
                 block.lines.emplace_back(TrimLeft(line));
         }
-        Fail(headerLine, "vessel '" + block.name + "' has no END line");
+        Fail(headerLine, "vessel " + Quoted(block.name) + " has no END line");
     }
 
     void Check() const {
         if (scn_.vessels.empty())
             throw ScenarioError(source_ + ": no vessels (BEGIN_SHIPS ... END_SHIPS is missing or empty)");
         if (!scn_.focus.empty() && !names_.contains(scn_.focus))
-            Fail(focusLine_, "the focus vessel '" + scn_.focus + "' is not among the ships");
+            Fail(focusLine_, "the focus vessel " + Quoted(scn_.focus) + " is not among the ships");
     }
 
     std::vector<std::string_view> lines_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "core/printable_text.h"
 #include "core/world.h"
 #include "physics/flight_model.h"
 
@@ -28,7 +29,7 @@ void LoadScenario(World &world, const ScenarioFile &scenario) {
         try {
             v = &world.ConstructVessel(block.name, block.className);
         } catch (const std::runtime_error &e) {
-            throw std::runtime_error("vessel '" + block.name + "': " + e.what());
+            throw std::runtime_error("vessel " + Quoted(block.name) + ": " + e.what());
         }
         created.push_back(v);
         world.LoadVesselState(*v, block.lines);

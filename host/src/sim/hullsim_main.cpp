@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "core/printable_text.h"
 #include "options.h"
 #include "run.h"
 #include "usage_error.h"
@@ -13,7 +14,7 @@ namespace {
 
 void ReportError(std::ostream &err, std::string message) {
     std::replace(message.begin(), message.end(), '\n', ' ');
-    err << "hullsim: " << message << std::endl;
+    err << "hullsim: " << PrintableText(message) << std::endl;
 }
 
 } // namespace

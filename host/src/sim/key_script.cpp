@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "core/printable_text.h"
 #include "key_names.h"
 #include "usage_error.h"
 
@@ -61,13 +62,13 @@ class LineParser {
         action.line = line_;
         auto time = Number(words[0]);
         if (!time || *time < 0)
-            Fail("bad time '" + std::string(words[0]) + "': expected seconds, 0 or more");
+            Fail("bad time " + Quoted(words[0]) + ": expected seconds, 0 or more");
         action.time = *time;
         ParseKey(words[1], action);
         if (words.size() == 3) {
             auto hold = Number(words[2]);
             if (!hold || *hold <= 0)
-                Fail("bad hold time '" + std::string(words[2]) + "': expected seconds, more than 0");
+                Fail("bad hold time " + Quoted(words[2]) + ": expected seconds, more than 0");
             action.hold = hold;
         }
         return action;
@@ -94,7 +95,7 @@ class LineParser {
         }
         auto code = KeyCode(rest);
         if (!code)
-            Fail("unknown key '" + std::string(word) + "'");
+            Fail("unknown key " + Quoted(word));
         action.key = *code;
     }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/printable_text.h"
 #include "frame_clock.h"
 #include "usage_error.h"
 
@@ -24,8 +25,8 @@ double ParseNumber(const std::string &option, const std::string &text, bool allo
     auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), d);
     bool ok = !text.empty() && ec == std::errc() && end == text.data() + text.size() && std::isfinite(d);
     if (!ok || d < 0 || (!allowZero && d == 0))
-        throw UsageError(option + " needs a number " + (allowZero ? "of 0 or more" : "above 0") + ", not '" +
-                         text + "'");
+        throw UsageError(option + " needs a number " + (allowZero ? "of 0 or more" : "above 0") + ", not " +
+                         Quoted(text));
     return d;
 }
 
@@ -34,7 +35,7 @@ unsigned ParseSeed(const std::string &text) {
     auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), n);
     if (text.empty() || ec != std::errc() || end != text.data() + text.size())
         throw UsageError("--seed needs a whole number from 0 to " +
-                         std::to_string(std::numeric_limits<unsigned>::max()) + ", not '" + text + "'");
+                         std::to_string(std::numeric_limits<unsigned>::max()) + ", not " + Quoted(text));
     return n;
 }
 
@@ -144,8 +145,8 @@ Command ParseCommandLine(const std::vector<std::string> &args, const std::string
                 "2 usage error (bad option, bad key script).");
 
     if (!args.empty() && args[0] != "run" && !args[0].starts_with("-"))
-        throw UsageError("unknown command '" + args[0] +
-                         "'; usage: hullsim run SCENARIO [options] (see hullsim --help)");
+        throw UsageError("unknown command " + Quoted(args[0]) +
+                         "; usage: hullsim run SCENARIO [options] (see hullsim --help)");
 
     // CLI11 takes the arguments last first.
     std::vector<std::string> reversed(args.rbegin(), args.rend());
