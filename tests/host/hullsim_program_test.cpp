@@ -2,6 +2,12 @@
 // whole run with the probe module loaded from its file.
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <future>
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "hullsim_fixture.h"
@@ -91,17 +97,77 @@ TEST_F(HullsimProgramTest, RunLoadsTheModulePlaysKeysAndWritesResults) {
                                         "root"}));
 }
 
-TEST_F(HullsimProgramTest, SavedScenarioRunsAgain) {
+TEST_F(HullsimProgramTest, SavedScenarioRunsAgainAndRunsEndAtTheirTime) {
     // Without --for the scenario is loaded and saved with no frame.
     const std::string first = dir / "first.scn", second = dir / "second.scn";
     ASSERT_EQ(Run({"run", Root() + "/Scenarios/probe.scn", "--root", Root(), "--save", first}).code, 0);
     auto lines = hullhost::ScenarioFile::Read(first).vessels.at(0).lines;
     EXPECT_NE(std::find(lines.begin(), lines.end(), "PROBE_FRAMES 0"), lines.end());
-    Result r = Run({"run", first, "--root", Root(), "--for", "0.1", "--save", second});
+    // 0.13 s is six frames of 0.02 s and a last one cut to 0.01 s.
+    Result r = Run({"run", first, "--root", Root(), "--for", "0.13", "--dt", "0.02", "--save", second});
     ASSERT_EQ(r.code, 0) << r.err;
     auto saved = hullhost::ScenarioFile::Read(second);
     ASSERT_TRUE(saved.mjd.has_value());
-    EXPECT_NEAR(*saved.mjd, 60000.0 + 0.1 / 86400.0, 1e-9);
+    EXPECT_NEAR((*saved.mjd - 60000.0) * 86400.0, 0.13, 1e-6);
+    lines = saved.vessels.at(0).lines;
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "PROBE_FRAMES 7"), lines.end()) << saved.Text();
+}
+
+// Outputs named by a pipe, a device or a link are written through them; only
+// a regular file is replaced, and nothing the user didn't name is touched.
+TEST_F(HullsimProgramTest, OutputsGoIntoPipesDevicesAndLinksWithoutReplacingThem) {
+    const std::vector<std::string> kinds = {"--save", "--state", "--hud", "--log", "--telemetry", "--plot"};
+    std::map<std::string, std::future<std::string>> readers;
+    std::vector<std::string> args = {"run", "probe", "--root", Root(), "--for", "0.1"};
+    for (const std::string &kind : kinds) {
+        const std::string pipe = dir / ("pipe" + kind);
+        ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+        readers[kind] = std::async(std::launch::async, [pipe] { return ReadText(pipe); });
+        args.insert(args.end(), {kind, pipe});
+    }
+    Result r = Run(args);
+    EXPECT_EQ(r.code, 0) << r.err;
+    for (auto &[kind, reader] : readers) {
+        const std::string pipe = dir / ("pipe" + kind);
+        // A reader still waiting for a writer is let go.
+        if (int fd = ::open(pipe.c_str(), O_WRONLY | O_NONBLOCK); fd >= 0)
+            ::close(fd);
+        EXPECT_FALSE(reader.get().empty()) << kind;
+        struct stat st {};
+        ASSERT_EQ(::lstat(pipe.c_str(), &st), 0);
+        EXPECT_TRUE(S_ISFIFO(st.st_mode)) << kind;
+    }
+
+    struct stat before {
+    }, after{};
+    ASSERT_EQ(::stat("/dev/null", &before), 0);
+    const std::string target = dir / "target.scn", link = dir / "link.scn";
+    WriteText(target, "old");
+    std::filesystem::create_symlink(target, link);
+    r = Run({"run", "probe", "--root", Root(), "--save", "/dev/null", "--state", "/dev/null", "--log",
+             "/dev/null", "--hud", link});
+    EXPECT_EQ(r.code, 0) << r.err;
+    ASSERT_EQ(::stat("/dev/null", &after), 0);
+    EXPECT_TRUE(S_ISCHR(after.st_mode));
+    EXPECT_EQ(after.st_ino, before.st_ino);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_NE(ReadText(target).find("<svg"), std::string::npos);
+}
+
+// Whatever a scenario holds, the error line quotes it readably: no control
+// characters reach the terminal, and a long line is cut.
+TEST_F(HullsimProgramTest, ErrorLinesQuoteBinaryInputEscapedAndCut) {
+    std::string binary = "\x1b[2J\x1b[H\x1b]0;owned\x07";
+    for (int i = 0; i < 512; ++i)
+        binary += static_cast<char>((i * 37 + 11) % 256);
+    WriteText(Root() + "/Scenarios/binary.scn", binary + "\n");
+    ExpectError({"run", "binary", "--root", Root()}, 1, "binary.scn:1: '\\x1b[2J");
+    const std::string line = Run({"run", "binary", "--root", Root()}).err;
+    EXPECT_LT(line.size(), 400u) << line;
+    for (size_t i = 0; i + 1 < line.size(); ++i) {
+        const auto c = static_cast<unsigned char>(line[i]);
+        EXPECT_TRUE(c >= 0x20 && c != 0x7f) << "byte " << int(c) << " at " << i;
+    }
 }
 
 } // namespace

@@ -219,10 +219,8 @@ void World::Frame(double realDt) {
 
 void World::WriteLog(const std::string &line) {
     log.push_back(line);
-    if (!logPath.empty()) {
-        std::ofstream out(logPath, std::ios::app);
-        out << line << '\n';
-    }
+    if (logFile.is_open())
+        logFile << line << std::endl; // kept whole if the run fails later
 }
 
 void World::FlushDeletions() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -119,7 +120,7 @@ class World {
     std::vector<std::unique_ptr<oapi::Pen>> pens;
     Camera camera;
     std::vector<std::string> log;
-    std::string logPath; // the log file; empty for none
+    std::ofstream logFile; // open for the run's log file, written line by line
     void WriteLog(const std::string &line);
 
     ModuleRegistry modules;

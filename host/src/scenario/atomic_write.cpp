@@ -31,12 +31,34 @@ bool WriteAll(int fd, std::string_view text) {
     return true;
 }
 
+// A pipe, a terminal or a device can't be replaced by renaming, and mustn't
+// be: the text goes straight into it.
+void WriteStraight(const std::string &path, std::string_view text) {
+    int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    if (fd < 0)
+        throw WriteError(path, errno);
+    const bool ok = WriteAll(fd, text);
+    const int err = errno;
+    ::close(fd);
+    if (!ok)
+        throw WriteError(path, err);
+}
+
 } // namespace
 
 void WriteFileAtomically(const std::string &path, std::string_view text) {
     std::filesystem::path target(path);
     if (target.filename().empty())
         throw std::runtime_error("can't write '" + path + "': not a file name");
+    std::error_code ec;
+    const auto status = std::filesystem::status(target, ec);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+        WriteStraight(path, text);
+        return;
+    }
+    // A link to a file is followed: the file changes, the link stays.
+    if (std::filesystem::is_symlink(std::filesystem::symlink_status(target, ec)))
+        target = std::filesystem::canonical(target, ec);
     std::filesystem::path folder = target.parent_path();
     std::string tmp = (folder / ("." + target.filename().string() + ".XXXXXX")).string();
     int fd = ::mkstemp(tmp.data());
@@ -55,7 +77,7 @@ void WriteFileAtomically(const std::string &path, std::string_view text) {
         ok = false;
         err = errno;
     }
-    if (ok && ::rename(tmp.c_str(), path.c_str()) != 0) {
+    if (ok && ::rename(tmp.c_str(), target.c_str()) != 0) {
         ok = false;
         err = errno;
     }

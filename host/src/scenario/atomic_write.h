@@ -1,6 +1,8 @@
 // Writing a whole file so that readers see either the old file or the new
 // one, never a part: the text goes to a temporary file in the same folder,
-// which then replaces the target in one rename.
+// which then replaces the target in one rename. A link to a file is followed;
+// what isn't a regular file (a pipe, a terminal, /dev/null) is written
+// straight into, never replaced.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
 // How many frames a run takes. A run of `seconds` at `step` seconds per frame
-// ends with the frame that reaches its end; a sum of steps that falls a
-// rounding error short of the end doesn't add a frame.
+// ends with the frame that reaches its end, cut short to end there; a sum of
+// steps that falls a rounding error short of the end doesn't add a frame.
 #pragma once
 
 #include <cmath>

@@ -65,15 +65,18 @@ void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> k
     Progress progress(stderr, options.seconds);
     double frames = 0;
     while (NeedsFrame(world.simt, options.seconds, options.dt * world.accel)) {
-        double step = options.dt * world.accel;
-        if (!(step > 0) || !std::isfinite(step))
+        const double full = options.dt * world.accel;
+        if (!(full > 0) || !std::isfinite(full))
             throw std::runtime_error("the time acceleration became " + std::to_string(world.accel));
+        // The last frame is cut short so that the run ends at its end exactly.
+        const double realDt = std::min(options.dt, (options.seconds - world.simt) / world.accel);
+        const double step = realDt * world.accel;
         if (++frames > kMaxFrames)
             throw std::runtime_error("the run took more than " +
                                      std::to_string(static_cast<long>(kMaxFrames)) +
                                      " frames; the time acceleration fell to " + std::to_string(world.accel));
         player.BeforeFrame(world.simt + step, step, world.keyState, world.bufferedKeys);
-        world.Frame(options.dt);
+        world.Frame(realDt);
         double next = options.dt * world.accel;
         player.AfterFrame(world.simt + next, next, world.keyState, world.bufferedKeys);
         progress.Update(world.simt);
@@ -124,8 +127,9 @@ void RunScenario(const RunOptions &options) {
     world.accel = options.accel;
     if (!logPath.empty()) {
         // One run, one log: the file starts empty.
-        std::ofstream(logPath, std::ios::trunc);
-        world.logPath = logPath;
+        world.logFile.open(logPath, std::ios::trunc);
+        if (!world.logFile)
+            throw std::runtime_error("can't write '" + logPath + "'");
     }
     LoadScenario(world, scenario);
     std::optional<RunTelemetry> telemetry;

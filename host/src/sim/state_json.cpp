@@ -4,6 +4,9 @@
 #include <cstring>
 #include <iterator>
 
+#include "core/body.h"
+#include "physics/flight_queries.h"
+#include "physics/horizon.h"
 #include "state_json_visuals.h"
 
 namespace hullhost::sim {
@@ -41,11 +44,27 @@ json Flight(const World &world, const Vessel &v) {
     const hullhost::Body *earth = world.Earth();
     VECTOR3 origin = earth ? earth->pos : VECTOR3{0, 0, 0};
     VECTOR3 originVel = earth ? earth->vel : VECTOR3{0, 0, 0};
-    return {
+    json flight = {
         {"status", v.landed ? "landed" : "free"},
         {"rpos", Vec(v.pos - origin)},
         {"rvel", Vec(v.vel - originVel)},
     };
+    // Where the vessel is over the nearest body and how it lies against its
+    // horizon, from its position and orientation as they are.
+    if (const hullhost::Body *body = physics::SurfaceRef(world, v)) {
+        const physics::Surface place = physics::SurfaceOf(body->rot, v.pos - body->pos);
+        const physics::Attitude attitude = physics::VesselAttitude(world, v);
+        flight["surface"] = {
+            {"body", body->Name()},
+            {"longitude", place.lng * DEG},
+            {"latitude", place.lat * DEG},
+            {"altitude", physics::VesselAltitude(world, v)},
+            {"heading", attitude.heading * DEG},
+            {"pitch", attitude.pitch * DEG},
+            {"bank", attitude.bank * DEG},
+        };
+    }
+    return flight;
 }
 
 json Propellants(const Vessel &v) {
