@@ -16,6 +16,4 @@ void HULLKIT::ReadFlagKeys() {
     CanAutoSwitchFocus = AutoSwitchFocus = AutoSwitchFocusConfigured = IsTrue(Cfg("CanAutoSwitchFocus"));
     if (IsTrue(Cfg("DebugInternalCameraMove")))
         AddUpdater(&HULLKIT::H_DEBUG_CAM);
-    if (IsTrue(Cfg("VC")))
-        AddUpdater(&HULLKIT::H_VC);
 }

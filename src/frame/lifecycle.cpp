@@ -2,6 +2,7 @@
 // configuration, finishing it in the host, and its step.
 #include <strings.h>
 
+#include "config/value_scan.h"
 #include "frame/hullkit.h"
 
 void HULLKIT::clbkLoadStateEx(FILEHANDLE scn, void *status) {
@@ -61,6 +62,8 @@ void HULLKIT::ApplyConfiguration() {
     ReplayScenarioLines();
     SetEnableFocus(FocusEnabled);
     FindMainTank();
+    if (IsTrue(Cfg("VC")))
+        AddUpdater(&HULLKIT::H_VC);
 }
 
 void HULLKIT::clbkPreStep(double simt, double simdt, double) {

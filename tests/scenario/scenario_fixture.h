@@ -10,6 +10,17 @@
 
 class ScenarioTest : public ResourceTest {
   protected:
+    static constexpr const char *kClassText =
+        "NoReentryGlow = true\n"
+        "Meshes = {\n  Hull Test\\Box xyz0\n  Door Test\\Box (1,2,3) NEVER LATER\n}\n"
+        "Textures = {\n  tDy DYNAMIC Test\\Panel\n}\n"
+        "Tanks = {\n  Main 5000\n  Rcs 100\n}\n"
+        "Thrusters = {\n  T0 (0,0,-1) zplus 20000 Main 3250\n}\n"
+        "ThrusterGroups = {\n  Main T0 1\n}\n"
+        "Cameras = {\n  fwd (0,0,1) (0,0,1) 0\n  aft (0,0,-1) (0,0,-1) 0\n}\n"
+        "ANIMATIONS = {\n  Hatch ROTATE Hull xyz0 xplus 90 0 1 0 NEW NONE 1\n}\n"
+        "AnimControls = {\n  HatchCtl Hatch 0.5 0 false\n}\n";
+
     ScenarioTest() {
         env.Write("Meshes/Test/Box.msh", "HKMESH 1\nLABEL Body\nLABEL Door\n");
         Common(std::string(kPropulsionHeaders) +
@@ -18,15 +29,7 @@ class ScenarioTest : public ResourceTest {
                "ANIM_REC = Anim ANIMATIONS SName IType SMesh VVec1 VVec2 DDeg DFrom DTo DStart "
                "SExisting SParent AGroups\n"
                "ANIM_CTRL_REC = AnimCtrl AnimControls SName SAnim DVel DAccel INoHardStop\n");
-        Class("NoReentryGlow = true\n"
-              "Meshes = {\n  Hull Test\\Box xyz0\n  Door Test\\Box (1,2,3) NEVER LATER\n}\n"
-              "Textures = {\n  tDy DYNAMIC Test\\Panel\n}\n"
-              "Tanks = {\n  Main 5000\n  Rcs 100\n}\n"
-              "Thrusters = {\n  T0 (0,0,-1) zplus 20000 Main 3250\n}\n"
-              "ThrusterGroups = {\n  Main T0 1\n}\n"
-              "Cameras = {\n  fwd (0,0,1) (0,0,1) 0\n  aft (0,0,-1) (0,0,-1) 0\n}\n"
-              "ANIMATIONS = {\n  Hatch ROTATE Hull xyz0 xplus 90 0 1 0 NEW NONE 1\n}\n"
-              "AnimControls = {\n  HatchCtl Hatch 0.5 0 false\n}\n");
+        Class(kClassText);
     }
 
     static std::vector<std::string> Save(HULLKIT &vessel) {

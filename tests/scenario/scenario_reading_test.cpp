@@ -5,6 +5,7 @@
 using ::testing::ElementsAre;
 
 TEST_F(ScenarioTest, FirstPassKeysAreComparedByPrefixWithoutCaseInTheirOrder) {
+    Class(std::string(kClassText) + "VC = true\n");
     ProbeVessel &p = Load({"prplevel 0:1", "reliability 80", "Met 5.5 1", "METRIC 9", "timers_1t_me H_DUST:2",
                            "TIMERS_1T H_UNPARK:3, NOT_AN_EVENT:4, ", "UPDATERS H_MET H_MET NOPE",
                            "imu 0 1 0  1 0 0", "FAILURES 1 2 0 1", "BALLISTIC 1 2", "Temperature55"});
@@ -15,7 +16,8 @@ TEST_F(ScenarioTest, FirstPassKeysAreComparedByPrefixWithoutCaseInTheirOrder) {
     EXPECT_TRUE(p.ShowMet);
     EXPECT_THAT(p.EngineEvents, ElementsAre(VesselCall(&HULLKIT::H_DUST)));
     EXPECT_THAT(p.OneShotEvents, ElementsAre(VesselCall(&HULLKIT::H_UNPARK)));
-    EXPECT_EQ(p.UpdatersText(), "H_TIMER_1T_ME, H_TIMER_1T, H_MET, H_ANIM, ");
+    // Restored updaters first, then those of the set-up in its order.
+    EXPECT_EQ(p.UpdatersText(), "H_TIMER_1T_ME, H_TIMER_1T, H_MET, H_ANIM, H_VC, ");
     EXPECT_DOUBLE_EQ(p.ImuYawReference.y, 1.0);
     EXPECT_DOUBLE_EQ(p.ImuPitchReference.x, 1.0);
     // A short line fills what it reaches and leaves the rest.
