@@ -49,13 +49,14 @@ std::string FormatNumber(double d) {
     return ec == std::errc() ? std::string(buf, end) : std::string("0");
 }
 
-// The text split into lines, without their line ends.
+// The text split into lines, without their line ends: the line feed and any
+// carriage returns before it.
 std::vector<std::string_view> SplitLines(std::string_view text) {
     std::vector<std::string_view> lines;
     while (!text.empty()) {
         size_t nl = text.find('\n');
         std::string_view line = text.substr(0, nl);
-        if (!line.empty() && line.back() == '\r')
+        while (!line.empty() && line.back() == '\r')
             line.remove_suffix(1);
         lines.push_back(line);
         if (nl == std::string_view::npos)
