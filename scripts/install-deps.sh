@@ -2,8 +2,9 @@
 # Installs the Debian packages the build needs, if any are missing.
 set -euo pipefail
 
+# clang and its runtimes (libFuzzer, the sanitizers) build the fuzz targets.
 packages=(build-essential cmake googletest libgtest-dev libgmock-dev libbenchmark-dev
-          libtsl-ordered-map-dev libcli11-dev nlohmann-json3-dev)
+          libtsl-ordered-map-dev libcli11-dev nlohmann-json3-dev clang libclang-rt-dev)
 
 missing=()
 for p in "${packages[@]}"; do
