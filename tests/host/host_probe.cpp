@@ -3,13 +3,17 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 
 std::vector<std::string> &ProbeEvents() {
     static std::vector<std::string> events;
     return events;
 }
 
-HostProbe::HostProbe(OBJHANDLE h, int fmodel) : VESSEL3(h, fmodel) { Record("construct"); }
+HostProbe::HostProbe(OBJHANDLE h, int fmodel) : VESSEL3(h, fmodel) {
+    Record("construct");
+    note = oapiCreateAnnotation(true, 1.0, _V(1, 1, 1));
+}
 
 HostProbe::~HostProbe() { ProbeEvents().push_back("destruct"); }
 
@@ -34,6 +38,16 @@ void HostProbe::clbkLoadStateEx(FILEHANDLE scn, void *status) {
         Record(std::string("load ") + line);
         if (std::strncmp(line, "PROBE_MAIN ", 11) == 0)
             mainLevel = std::atof(line + 11);
+        else if (std::sscanf(line, "PROBE_ANSWER %d %d", &bufferedAnswer, &directAnswer) == 2 ||
+                 std::sscanf(line, "PROBE_WARP %lf", &warp) == 1 ||
+                 std::sscanf(line, "PROBE_THROW %d", &throwAt) == 1)
+            continue;
+        else if (std::strcmp(line, "PROBE_RCS") == 0)
+            rcs = true;
+        else if (std::strcmp(line, "PROBE_SAY") == 0)
+            say = true;
+        else if (std::strcmp(line, "PROBE_SPAWN") == 0)
+            spawn = true;
         else if (std::strncmp(line, "PROBE", 5) != 0)
             ParseScenarioLineEx(line, status);
     }
@@ -47,13 +61,21 @@ void HostProbe::clbkSaveState(FILEHANDLE scn) {
     char held[64];
     std::snprintf(held, sizeof held, "M=%d J=%d CTRL=%d", heldM, heldJ, heldCtrl);
     oapiWriteScenario_string(scn, "PROBE_HELD", held);
+    oapiWriteScenario_int(scn, "PROBE_MANUAL", manual);
 }
 
 void HostProbe::clbkPostCreation() {
     Record("postCreation");
     if (mainLevel > 0.0)
         SetThrusterGroupLevel(THGROUP_MAIN, mainLevel);
-    NOTEHANDLE note = oapiCreateAnnotation(true, 1.0, _V(1, 1, 1));
+    if (rcs) {
+        THRUSTER_HANDLE pitch =
+            CreateThruster(_V(0, 0, 2), _V(0, 1, 0), 50.0, CreatePropellantResource(10.0), 2000.0);
+        THRUSTER_HANDLE lift =
+            CreateThruster(_V(0, 0, 0), _V(0, 1, 0), 50.0, CreatePropellantResource(10.0), 2000.0);
+        CreateThrusterGroup(&pitch, 1, THGROUP_ATT_PITCHUP);
+        CreateThrusterGroup(&lift, 1, THGROUP_ATT_UP);
+    }
     std::string text = std::string("probe ") + GetName() + " ready";
     oapiAnnotationSetText(note, text.data());
     oapiWriteLog(text.data());
@@ -85,6 +107,24 @@ void HostProbe::clbkPreStep(double simt, double, double) {
     ++frames;
     Record("preStep");
     std::snprintf(oapiDebugString(), 256, "frames %d at %.2f", frames, simt);
+    manual += GetManualControlLevel(THGROUP_ATT_PITCHUP, MANCTRL_ANYMODE) > 0.0 ? 1 : 0;
+    if (say) {
+        char text[8];
+        std::strcpy(text, frames <= 2 ? "hello" : frames <= 4 ? "" : "bye");
+        oapiAnnotationSetText(note, text);
+    }
+    if (warp > 0.0 && frames <= 2)
+        oapiSetTimeAcceleration(warp);
+    if (spawn && frames == 1) {
+        VESSELSTATUS2 status{};
+        status.version = 2;
+        GetStatusEx(&status);
+        oapiCreateVesselEx((std::string(GetName()) + "-child").c_str(), "Test\\Probe", &status);
+    }
+    if (spawn && frames == 2)
+        oapiDeleteVessel(GetHandle());
+    if (frames == throwAt)
+        throw std::runtime_error("probe failure");
 }
 
 int HostProbe::clbkConsumeBufferedKey(DWORD key, bool down, char *kstate) {
@@ -94,14 +134,14 @@ int HostProbe::clbkConsumeBufferedKey(DWORD key, bool down, char *kstate) {
     std::snprintf(text, sizeof text, "%c%u%s", down ? '+' : '-', static_cast<unsigned>(key),
                   KEYMOD_LCONTROL(kstate) ? "^" : "");
     keys += text;
-    return 1;
+    return bufferedAnswer;
 }
 
 int HostProbe::clbkConsumeDirectKey(char *kstate) {
     heldM += KEYDOWN(kstate, OAPI_KEY_M) ? 1 : 0;
     heldJ += KEYDOWN(kstate, OAPI_KEY_J) ? 1 : 0;
     heldCtrl += KEYDOWN(kstate, OAPI_KEY_LCONTROL) ? 1 : 0;
-    return 0;
+    return directAnswer;
 }
 
 VESSEL *HostProbeInit(OBJHANDLE h, int fmodel) { return new HostProbe(h, fmodel); }

@@ -116,7 +116,8 @@ TEST_F(HullsimProgramTest, SavedScenarioRunsAgainAndRunsEndAtTheirTime) {
 // Outputs named by a pipe, a device or a link are written through them; only
 // a regular file is replaced, and nothing the user didn't name is touched.
 TEST_F(HullsimProgramTest, OutputsGoIntoPipesDevicesAndLinksWithoutReplacingThem) {
-    const std::vector<std::string> kinds = {"--save", "--state", "--hud", "--log", "--telemetry", "--plot"};
+    const std::vector<std::string> kinds = {"--save",      "--state", "--hud",   "--log",
+                                            "--telemetry", "--plot",  "--events"};
     std::map<std::string, std::future<std::string>> readers;
     std::vector<std::string> args = {"run", "probe", "--root", Root(), "--for", "0.1"};
     for (const std::string &kind : kinds) {

@@ -47,6 +47,25 @@ TEST(KeyNamesTest, UnknownNamesHaveNoCode) {
         EXPECT_FALSE(KeyCode(name).has_value()) << name;
 }
 
+// The names written for codes read back as the same codes, so that a key in
+// the event log can be pressed again by a key script.
+TEST(KeyNamesTest, NamesOfCodesReadBack) {
+    int named = 0;
+    for (DWORD code = 0; code < 256; ++code) {
+        const std::string name = hullhost::sim::KeyName(code);
+        if (name.starts_with("0x"))
+            continue;
+        ++named;
+        EXPECT_EQ(KeyCode(name), code) << name;
+    }
+    EXPECT_GT(named, 90);
+    EXPECT_EQ(hullhost::sim::KeyName(OAPI_KEY_ADD), "KP_PLUS");
+    char kstate[256] = {};
+    kstate[OAPI_KEY_RCONTROL] = kstate[OAPI_KEY_LSHIFT] = static_cast<char>(0x80);
+    EXPECT_EQ(hullhost::sim::KeyNameWithModifiers(OAPI_KEY_M, kstate), "Ctrl+Shift+M");
+    EXPECT_EQ(hullhost::sim::KeyNameWithModifiers(OAPI_KEY_LSHIFT, kstate), "Ctrl+LSHIFT");
+}
+
 TEST(KeyScriptTest, ReadsPressesHoldsAndModifiers) {
     auto actions = ParseKeyScript("; flight keys\n"
                                   "\n"

@@ -22,7 +22,13 @@ NOTEHANDLE oapiCreateAnnotation(bool exclusive, double size, const VECTOR3 &col)
     note->exclusive = exclusive;
     note->size = size;
     note->colour = col;
-    auto &notes = World::Current().annotations;
+    World &w = World::Current();
+    auto &notes = w.annotations;
+    // Made by a vessel, the first one is its message line.
+    note->owner = w.RunningVessel();
+    note->messageLine = note->owner && std::none_of(notes.begin(), notes.end(), [&note](auto &other) {
+                            return other->owner == note->owner && other->messageLine;
+                        });
     notes.push_back(std::move(note));
     return notes.back()->Handle();
 }
@@ -50,7 +56,7 @@ void oapiAnnotationSetColour(NOTEHANDLE h, const VECTOR3 &col) {
 
 void oapiAnnotationSetText(NOTEHANDLE h, char *note) {
     if (auto *n = FindNote(h))
-        n->text = note ? note : "";
+        World::Current().SetAnnotationText(*n, note);
 }
 
 oapi::Pen *oapiCreatePen(int style, int width, DWORD col) {

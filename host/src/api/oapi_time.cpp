@@ -14,5 +14,5 @@ double oapiGetTimeAcceleration() { return World::Current().accel; }
 // Takes effect with the next frame, also when called from a vessel's step.
 void oapiSetTimeAcceleration(double warp) {
     if (warp > 0.0)
-        World::Current().accel = warp;
+        World::Current().SetTimeAcceleration(warp);
 }

@@ -21,7 +21,7 @@ bool VESSEL::ActivateNavmode(int mode) {
             if (vessel->navmodes.test(static_cast<size_t>(other)))
                 DeactivateNavmode(other);
     vessel->navmodes.set(static_cast<size_t>(mode));
-    hullhost::CallbackScope scope(hullhost::World::Current());
+    hullhost::CallbackScope scope(hullhost::World::Current(), vessel);
     static_cast<VESSEL2 *>(this)->clbkNavMode(mode, true);
     return true;
 }
@@ -30,7 +30,7 @@ bool VESSEL::DeactivateNavmode(int mode) {
     if (!Valid(mode) || !vessel->navmodes.test(static_cast<size_t>(mode)))
         return false;
     vessel->navmodes.reset(static_cast<size_t>(mode));
-    hullhost::CallbackScope scope(hullhost::World::Current());
+    hullhost::CallbackScope scope(hullhost::World::Current(), vessel);
     static_cast<VESSEL2 *>(this)->clbkNavMode(mode, false);
     return true;
 }

@@ -255,12 +255,13 @@ void VESSEL::IncThrusterGroupLevel(THGROUP_TYPE thgt, double dlevel) const {
 }
 
 // The user's manual command for a group: the keypad keys held down on the
-// focus vessel, in the attitude mode that their group belongs to.
+// focus vessel that it left to the host, in the attitude mode that their
+// group belongs to.
 double VESSEL::GetManualControlLevel(THGROUP_TYPE thgt, DWORD mode, DWORD device) const {
     auto &world = hullhost::World::Current();
     if (world.focus != vessel || device == MANCTRL_JOYSTICK)
         return 0.0;
-    return hullhost::ManualControlLevel(world.keyState, vessel->attitudeMode, thgt, mode);
+    return hullhost::ManualControlLevel(world.HostKeys(), vessel->attitudeMode, thgt, mode);
 }
 
 int VESSEL::GetAttitudeMode() const { return vessel->attitudeMode; }

@@ -3,6 +3,7 @@
 // life, since its handle is a pointer to it.
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,6 +33,10 @@ struct Thruster {
     double ispRef = 0.0; // specific impulse at pRef, 0 for none
     double pRef = 101.4e3;
     double level = 0.0; // 0..1; groups set the levels of their thrusters
+    // The host's own firing from the user's keys, for the current frame only;
+    // it adds to the level that the vessel set.
+    double manualLevel = 0.0;
+    double Output() const { return std::min(1.0, level + manualLevel); }
     THRUSTER_HANDLE Handle() { return reinterpret_cast<THRUSTER_HANDLE>(this); }
 };
 

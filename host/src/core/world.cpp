@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <stdexcept>
 
+#include "host_controls.h"
 #include "line_file.h"
 #include "physics/flight_model.h"
 #include "visual/visual_lifecycle.h"
@@ -23,6 +25,7 @@ World::World(std::string root) : modules(root), root_(std::move(root)) {
 }
 
 World::~World() {
+    events = nullptr; // the end of the world is no event of its run
     // Modules end their vessels before the libraries go.
     while (!vessels_.empty())
         DeleteNow(*vessels_.back());
@@ -92,7 +95,7 @@ Vessel &World::ConstructVessel(const std::string &name, const std::string &class
     Vessel &v = *vessels_.back();
     v.ref = Earth();
     {
-        CallbackScope scope(*this);
+        CallbackScope scope(*this, &v);
         v.iface = module.Init(v.Handle(), 1);
     }
     if (!v.iface || v.iface->Version() < 1) {
@@ -103,7 +106,7 @@ Vessel &World::ConstructVessel(const std::string &name, const std::string &class
     if (seed)
         std::srand(*seed);
     LineFile classFile = LineFile::ReadLocal(modules.ClassFile(className));
-    CallbackScope scope(*this);
+    CallbackScope scope(*this, &v);
     static_cast<VESSEL2 *>(v.iface)->clbkSetClassCaps(classFile.Handle());
     return v;
 }
@@ -121,7 +124,7 @@ void World::LoadVesselState(Vessel &v, const std::vector<std::string> &lines) {
     LineFile reader(lines);
     VESSELSTATUS2 status = DefaultStatus(Earth());
     {
-        CallbackScope scope(*this);
+        CallbackScope scope(*this, &v);
         static_cast<VESSEL2 *>(v.iface)->clbkLoadStateEx(reader.Handle(), &status);
     }
     physics::SetStatus2(*this, v, status);
@@ -130,6 +133,8 @@ void World::LoadVesselState(Vessel &v, const std::vector<std::string> &lines) {
 Vessel &World::CreateVessel(const std::string &name, const std::string &className,
                             const VESSELSTATUS2 &state) {
     Vessel &v = ConstructVessel(name, className);
+    if (events)
+        events->OnCreated(v);
     physics::SetStatus2(*this, v, state);
     PostCreate(v);
     return v;
@@ -138,6 +143,8 @@ Vessel &World::CreateVessel(const std::string &name, const std::string &classNam
 Vessel &World::CreateVessel(const std::string &name, const std::string &className,
                             const VESSELSTATUS &state) {
     Vessel &v = ConstructVessel(name, className);
+    if (events)
+        events->OnCreated(v);
     physics::SetStatus(*this, v, state);
     PostCreate(v);
     return v;
@@ -152,7 +159,7 @@ Vessel &World::AddBareVessel(const std::string &name) {
 
 void World::PostCreate(Vessel &v) {
     {
-        CallbackScope scope(*this);
+        CallbackScope scope(*this, &v);
         static_cast<VESSEL2 *>(v.iface)->clbkPostCreation();
     }
     CreateVisual(*this, v);
@@ -172,14 +179,74 @@ void World::SetFocus(Vessel *v) {
         return;
     Vessel *old = focus;
     focus = v;
+    if (events)
+        events->OnFocus(v);
     CallbackScope scope(*this);
-    if (old && old->iface)
+    if (old && old->iface) {
+        CallbackScope running(*this, old);
         static_cast<VESSEL2 *>(old->iface)->clbkFocusChanged(false, v ? v->Handle() : nullptr, old->Handle());
-    if (v && v->iface)
+    }
+    if (v && v->iface) {
+        CallbackScope running(*this, v);
         static_cast<VESSEL2 *>(v->iface)->clbkFocusChanged(true, v->Handle(), old ? old->Handle() : nullptr);
-    // The cockpit view is generic: the new focus vessel builds it.
-    if (v && v->iface && camera.cockpitMode == COCKPIT_GENERIC)
-        static_cast<VESSEL2 *>(v->iface)->clbkLoadGenericCockpit();
+        // The cockpit view is generic: the new focus vessel builds it.
+        if (camera.cockpitMode == COCKPIT_GENERIC)
+            static_cast<VESSEL2 *>(v->iface)->clbkLoadGenericCockpit();
+    }
+}
+
+void World::SetTimeAcceleration(double value) {
+    if (value == accel)
+        return;
+    accel = value;
+    if (events)
+        events->OnTimeAccel(value);
+}
+
+void World::SetAnnotationText(Annotation &note, const char *text) {
+    const std::string_view now = text ? text : "";
+    if (note.text == now)
+        return;
+    note.text = now;
+    if (events && note.messageLine && note.owner)
+        events->OnMessage(*note.owner, note.text);
+}
+
+void World::DeliverKeys() {
+    std::memcpy(hostKeysBefore_, hostKeys_, sizeof hostKeys_);
+    std::memset(hostKeys_, 0, sizeof hostKeys_);
+    std::memcpy(vesselKeys_, keyState, sizeof vesselKeys_);
+    // Without a focus vessel nobody hears the keys. A key may move the focus:
+    // the next one goes to the new focus vessel.
+    while (!bufferedKeys.empty()) {
+        const KeyEvent e = bufferedKeys.front();
+        bufferedKeys.pop_front();
+        Vessel *v = focus;
+        if (!v || !v->iface)
+            continue;
+        if (events)
+            events->OnKey(*v, e.key, e.down, vesselKeys_);
+        int answer = 0;
+        {
+            CallbackScope running(*this, v);
+            answer = static_cast<VESSEL2 *>(v->iface)->clbkConsumeBufferedKey(e.key, e.down, vesselKeys_);
+        }
+        consumedPresses_.set(e.key & 0xFF, e.down && answer != 0);
+    }
+    Vessel *v = focus;
+    if (!v || !v->iface)
+        return;
+    int answer = 0;
+    {
+        CallbackScope running(*this, v);
+        answer = static_cast<VESSEL2 *>(v->iface)->clbkConsumeDirectKey(vesselKeys_);
+    }
+    if (answer != 0 || focus != v)
+        return;
+    for (size_t k = 0; k < sizeof hostKeys_; ++k)
+        if (!consumedPresses_.test(k))
+            hostKeys_[k] = vesselKeys_[k];
+    manualFiring_ = ActOnHostKeys(*this, *v, hostKeys_, hostKeysBefore_, sysdt);
 }
 
 void World::Frame(double realDt) {
@@ -189,30 +256,33 @@ void World::Frame(double realDt) {
     simt += simdt;
     {
         CallbackScope scope(*this);
-        if (focus && focus->iface) {
-            auto *v2 = static_cast<VESSEL2 *>(focus->iface);
-            while (!bufferedKeys.empty()) {
-                KeyEvent e = bufferedKeys.front();
-                bufferedKeys.pop_front();
-                v2->clbkConsumeBufferedKey(e.key, e.down, keyState);
-            }
-            v2->clbkConsumeDirectKey(keyState);
-        }
-        bufferedKeys.clear(); // without a focus vessel nobody hears them
+        DeliverKeys();
         // Vessels created during the walk take their first step next frame.
         const size_t count = vessels_.size();
-        for (size_t i = 0; i < count && i < vessels_.size(); ++i)
-            if (vessels_[i]->iface)
-                static_cast<VESSEL2 *>(vessels_[i]->iface)->clbkPreStep(simt, simdt, Mjd());
+        for (size_t i = 0; i < count && i < vessels_.size(); ++i) {
+            Vessel *v = vessels_[i].get();
+            if (v->iface) {
+                CallbackScope running(*this, v);
+                static_cast<VESSEL2 *>(v->iface)->clbkPreStep(simt, simdt, Mjd());
+            }
+        }
     }
     FlushDeletions();
     physics::Advance(*this, simdt);
+    if (manualFiring_) {
+        EndManualFiring(*this);
+        manualFiring_ = false;
+    }
     {
         CallbackScope scope(*this);
         const size_t count = vessels_.size();
-        for (size_t i = 0; i < count && i < vessels_.size(); ++i)
-            if (vessels_[i]->iface)
-                static_cast<VESSEL2 *>(vessels_[i]->iface)->clbkPostStep(simt, simdt, Mjd());
+        for (size_t i = 0; i < count && i < vessels_.size(); ++i) {
+            Vessel *v = vessels_[i].get();
+            if (v->iface) {
+                CallbackScope running(*this, v);
+                static_cast<VESSEL2 *>(v->iface)->clbkPostStep(simt, simdt, Mjd());
+            }
+        }
     }
     FlushDeletions();
 }
@@ -232,6 +302,8 @@ void World::FlushDeletions() {
 }
 
 void World::DeleteNow(Vessel &v) {
+    if (events && v.iface)
+        events->OnDeleted(v);
     // Loose every attachment that joins the vessel to another.
     for (auto &other : vessels_) {
         for (auto &a : other->attachments) {
@@ -250,18 +322,26 @@ void World::DeleteNow(Vessel &v) {
                 focus = other.get();
                 break;
             }
+        if (events)
+            events->OnFocus(focus);
     }
     DestroyVisual(*this, v);
     if (v.iface) {
-        CallbackScope scope(*this);
+        CallbackScope scope(*this, &v);
         v.GetModule()->Exit(v.iface);
         v.iface = nullptr;
     }
+    for (auto &note : annotations)
+        if (note->owner == &v)
+            note->owner = nullptr;
     auto it = std::find_if(vessels_.begin(), vessels_.end(), [&v](auto &p) { return p.get() == &v; });
     if (it != vessels_.end())
         vessels_.erase(it);
 }
 
-CallbackScope::~CallbackScope() { --world_.callbackDepth_; }
+CallbackScope::~CallbackScope() {
+    --world_.callbackDepth_;
+    world_.running_ = outer_;
+}
 
 } // namespace hullhost

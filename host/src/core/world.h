@@ -2,6 +2,7 @@
 // logs. One world is current at a time; the oapi functions act on it.
 #pragma once
 
+#include <bitset>
 #include <deque>
 #include <fstream>
 #include <memory>
@@ -16,6 +17,7 @@
 #include "vessel.h"
 #include "visual/mesh_cache.h"
 #include "visual/texture_registry.h"
+#include "world_events.h"
 
 namespace hullhost {
 
@@ -67,6 +69,8 @@ class World {
     double mjd0 = 51544.5; // date at simt 0
     double accel = 1.0;    // time acceleration
     double Mjd() const { return mjd0 + simt / 86400.0; }
+    // Changes the time acceleration during the run; a new value is an event.
+    void SetTimeAcceleration(double value);
 
     // --- Bodies --------------------------------------------------------------
     std::vector<std::unique_ptr<Body>> bodies;
@@ -111,11 +115,23 @@ class World {
     void Frame(double realDt);
 
     // --- Input ---------------------------------------------------------------
+    // The keys held down (bit 7 of a key's byte), and the presses and
+    // releases still to be delivered, oldest first. Each frame the focus
+    // vessel gets the buffered events through clbkConsumeBufferedKey and then
+    // the held keys through clbkConsumeDirectKey, each time a copy of the key
+    // state that it may change (RESETKEY).
     char keyState[256] = {};
     std::deque<KeyEvent> bufferedKeys;
+    // The keys that the focus vessel left to the host in the current frame:
+    // none when its clbkConsumeDirectKey answered non-zero, else those still
+    // down in the state it was given, without keys whose press it consumed.
+    // The manual control levels and the host's own controls read these.
+    const char *HostKeys() const { return hostKeys_; }
 
     // --- Screen and log ------------------------------------------------------
     std::vector<std::unique_ptr<Annotation>> annotations;
+    // Sets an annotation's text; a change of a vessel's message line is an event.
+    void SetAnnotationText(Annotation &note, const char *text);
     char debugString[256] = {};
     std::vector<std::unique_ptr<oapi::Pen>> pens;
     Camera camera;
@@ -132,9 +148,22 @@ class World {
     // a run repeats exactly.
     std::optional<unsigned> seed;
 
+    // Told of what happens in the world; null for nobody.
+    WorldEvents *events = nullptr;
+    // The vessel whose constructor or callback is running; null outside them.
+    Vessel *RunningVessel() const { return running_; }
+
   private:
     void DeleteNow(Vessel &v);
     void FlushDeletions();
+    void DeliverKeys();
+
+    char vesselKeys_[256] = {};        // the copy of keyState that the focus vessel gets
+    char hostKeys_[256] = {};          // see HostKeys()
+    char hostKeysBefore_[256] = {};    // those of the frame before
+    std::bitset<256> consumedPresses_; // keys whose press the vessel consumed, until released
+    bool manualFiring_ = false;        // attitude thrusters fire from the keys in this frame
+    Vessel *running_ = nullptr;
 
     std::string root_;
     std::vector<std::unique_ptr<Vessel>> vessels_;
@@ -144,13 +173,21 @@ class World {
 };
 
 // Marks a callback into a module in progress, so that deletions wait for it.
+// With a vessel, that vessel's constructor or callback runs in the scope.
 class CallbackScope {
   public:
-    explicit CallbackScope(World &w) : world_(w) { ++world_.callbackDepth_; }
+    explicit CallbackScope(World &w, Vessel *running = nullptr) : world_(w), outer_(w.running_) {
+        ++world_.callbackDepth_;
+        if (running)
+            world_.running_ = running;
+    }
     ~CallbackScope();
+    CallbackScope(const CallbackScope &) = delete;
+    CallbackScope &operator=(const CallbackScope &) = delete;
 
   private:
     World &world_;
+    Vessel *outer_;
 };
 
 } // namespace hullhost

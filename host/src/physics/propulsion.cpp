@@ -12,7 +12,7 @@ namespace {
 // than this is a rounding residue, not a supply: the tank is empty.
 constexpr double kResidueTime = 1e-6; // [s]
 
-bool Fed(const Thruster &th) { return th.level > 0.0 && th.propellant && th.propellant->mass > 0.0; }
+bool Fed(const Thruster &th) { return th.Output() > 0.0 && th.propellant && th.propellant->mass > 0.0; }
 
 } // namespace
 
@@ -27,7 +27,7 @@ double ThrusterForce(const Thruster &th, double pressure) {
     if (!Fed(th)) {
         return 0.0;
     }
-    const double full = th.level * th.maxThrust0;
+    const double full = th.Output() * th.maxThrust0;
     return th.isp0 > 0.0 ? full * ThrusterIsp(th, pressure) / th.isp0 : full;
 }
 
@@ -36,7 +36,7 @@ double ThrusterFlow(const Thruster &th) {
         return 0.0;
     }
     const double efficiency = th.propellant->efficiency > 0.0 ? th.propellant->efficiency : 1.0;
-    return th.level * th.maxThrust0 / (th.isp0 * efficiency);
+    return th.Output() * th.maxThrust0 / (th.isp0 * efficiency);
 }
 
 ThrustLoad TotalThrust(const Vessel &v, double pressure) {

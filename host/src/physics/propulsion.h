@@ -1,6 +1,7 @@
 // Thrusters: thrust, specific impulse against ambient pressure, propellant flow.
 //
-// A thruster's level fixes its propellant flow, level * maxThrust0 / isp0
+// A thruster's output level (the level the vessel set, plus the host's firing
+// from the user's keys) fixes its propellant flow, level * maxThrust0 / isp0
 // (divided by the tank's efficiency); the thrust is that flow times the
 // specific impulse at the ambient pressure, which runs linearly from isp0 in
 // vacuum to ispRef at pRef. A thruster without a tank, or on an empty one,

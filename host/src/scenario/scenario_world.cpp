@@ -64,7 +64,7 @@ ScenarioFile CaptureScenario(World &world, const ScenarioFile &base) {
             continue;
         LineFile file;
         {
-            CallbackScope scope(world);
+            CallbackScope scope(world, v);
             static_cast<VESSEL2 *>(v->iface)->clbkSaveState(file.Handle());
         }
         scn.vessels.push_back({v->Name(), v->ClassName(), file.Written()});

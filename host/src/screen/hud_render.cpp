@@ -63,7 +63,7 @@ HudSketchpad DrawFocusHud(World &world, int width, int height) {
     if (!vessel)
         return pad;
     HUDPAINTSPEC spec{width, height, width / 2, height / 2, height / 2.0, std::max(height / 50, 1)};
-    CallbackScope scope(world);
+    CallbackScope scope(world, focus);
     vessel->clbkDrawHUD(HUD_SURFACE, &spec, &pad);
     return pad;
 }

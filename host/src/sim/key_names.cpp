@@ -2,19 +2,20 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 #include <string>
 
 namespace hullhost::sim {
 
 namespace {
 
-struct KeyName {
+struct NamedKey {
     std::string_view name;
     DWORD code;
 };
 
 // Named keys; letters, digits and F1..F12 follow below from their codes.
-constexpr KeyName kNames[] = {
+constexpr NamedKey kNames[] = {
     {"ESCAPE", OAPI_KEY_ESCAPE},
     {"ESC", OAPI_KEY_ESCAPE},
     {"MINUS", OAPI_KEY_MINUS},
@@ -145,6 +146,36 @@ std::optional<DWORD> KeyCode(std::string_view name) {
         if (k.name == upper)
             return k.code;
     return std::nullopt;
+}
+
+std::string KeyName(DWORD code) {
+    for (char c : std::string_view("1234567890QWERTYUIOPASDFGHJKLZXCVBNM"))
+        if (SingleCharacter(c) == code)
+            return std::string(1, c);
+    for (int n = 1; n <= 12; ++n)
+        if (std::string name = "F" + std::to_string(n); FunctionKey(name) == code)
+            return name;
+    for (const auto &k : kNames)
+        if (k.code == code)
+            return std::string(k.name);
+    char hex[8];
+    std::snprintf(hex, sizeof hex, "0x%02X", static_cast<unsigned>(code & 0xFF));
+    return hex;
+}
+
+std::string KeyNameWithModifiers(DWORD code, const char *kstate) {
+    struct Modifier {
+        const char *prefix;
+        DWORD left, right;
+    };
+    constexpr Modifier kModifiers[] = {{"Ctrl+", OAPI_KEY_LCONTROL, OAPI_KEY_RCONTROL},
+                                       {"Shift+", OAPI_KEY_LSHIFT, OAPI_KEY_RSHIFT},
+                                       {"Alt+", OAPI_KEY_LALT, OAPI_KEY_RALT}};
+    std::string name;
+    for (const auto &m : kModifiers)
+        if (code != m.left && code != m.right && (KEYDOWN(kstate, m.left) || KEYDOWN(kstate, m.right)))
+            name += m.prefix;
+    return name + KeyName(code);
 }
 
 } // namespace hullhost::sim

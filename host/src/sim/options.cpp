@@ -73,6 +73,9 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
         ->default_str("1");
     run.add_option("--plot", o.plotPath, "Draw altitude, apsides and mass over time to FILE as SVG")
         ->type_name("FILE");
+    run.add_option("--events", o.eventsPath,
+                   "Write the run's events to FILE as JSON Lines, also when the run fails midway")
+        ->type_name("FILE");
 }
 
 void CheckNumbers(const NumberTexts &n, RunOptions &o) {
@@ -139,6 +142,14 @@ Command ParseCommandLine(const std::vector<std::string> &args, const std::string
     AddRunOptions(*run, cmd.run, numbers);
     run->footer("Key script: one line each \"TIME KEY [SECONDS]\", such as \"2.5 Ctrl+M\" (one press) or\n"
                 "\"10 KP_PLUS 3\" (held 3 s); ';' starts a comment.\n"
+                "Keys go to the focus vessel; the host acts on those it leaves: KP_PLUS and KP_MINUS\n"
+                "raise and lower the main thrust by 0.2 per second of real time while held (KP_MINUS\n"
+                "at 0 raises the retro thrust), Ctrl+KP_PLUS sets full main thrust, KP_MULTIPLY cuts\n"
+                "main and retro; KP_1..KP_9 fire the attitude thrusters while held, KP_DIVIDE switches\n"
+                "them between rotation and translation, Ctrl+KP_DIVIDE off and on.\n"
+                "Events: one JSON object per line with \"t\" (simulation time) and \"kind\": message\n"
+                "(vessel, text), created (vessel, class), deleted (vessel), focus (vessel), key\n"
+                "(vessel, key, down), timeaccel (value), engine (vessel, level of the main group).\n"
                 "Telemetry: a row per vessel and sample: time, vessel, altitude, speed, apogee and\n"
                 "perigee altitude, inclination, mass, main thrust level; written at the end of the run.\n"
                 "Exit codes: 0 done, 1 run error (missing file, unknown class, module failure),\n"

@@ -7,6 +7,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "event_log.h"
 #include "frame_clock.h"
 #include "key_player.h"
 #include "progress.h"
@@ -58,9 +59,9 @@ class WorkingDirectory {
 };
 
 // Runs the frames of a world for `seconds` of simulation time, sampling the
-// telemetry (if any) after each.
-void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys,
-               RunTelemetry *telemetry) {
+// telemetry and checking the engines for the event log (if any) after each.
+void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys, RunTelemetry *telemetry,
+               EventLog *events) {
     KeyPlayer player(std::move(keys));
     Progress progress(stderr, options.seconds);
     double frames = 0;
@@ -82,7 +83,41 @@ void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> k
         progress.Update(world.simt);
         if (telemetry)
             telemetry->Sample(world);
+        if (events)
+            events->CheckEngines();
     }
+}
+
+// The outputs of a run, as absolute paths; empty for none.
+struct Outputs {
+    std::string save, state, hud, log, telemetry, plot, events;
+};
+
+// Loads the scenario into the world, runs it and writes the outputs.
+void RunWorld(World &world, const ScenarioFile &scenario, const RunOptions &options, const Outputs &out,
+              std::vector<KeyAction> keys, EventLog *events) {
+    LoadScenario(world, scenario);
+    std::optional<RunTelemetry> telemetry;
+    if (!out.telemetry.empty() || !out.plot.empty())
+        telemetry.emplace(out.telemetry, out.plot, options.tracks, options.telemetryInterval, world);
+    if (events)
+        events->CheckEngines();
+    RunFrames(world, options, std::move(keys), telemetry ? &*telemetry : nullptr, events);
+
+    std::optional<std::string> stateText, scenarioText;
+    if (!out.state.empty())
+        stateText =
+            WorldState(world).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+    if (!out.save.empty())
+        scenarioText = CaptureScenario(world, scenario).Text();
+    if (!out.hud.empty())
+        WriteFileAtomically(out.hud, HudSvg(DrawFocusHud(world), world));
+    if (stateText)
+        WriteFileAtomically(out.state, *stateText);
+    if (scenarioText)
+        WriteFileAtomically(out.save, *scenarioText);
+    if (telemetry)
+        telemetry->Write();
 }
 
 } // namespace
@@ -110,12 +145,13 @@ void RunScenario(const RunOptions &options) {
         throw std::runtime_error("root folder '" + options.root + "' does not exist");
     const fs::path root = fs::absolute(options.root);
     const std::string scenarioPath = FindScenario(options.scenario, root.string());
-    const std::string savePath = OutputPath(options.savePath, "--save");
-    const std::string statePath = OutputPath(options.statePath, "--state");
-    const std::string hudPath = OutputPath(options.hudPath, "--hud");
-    const std::string logPath = OutputPath(options.logPath, "--log");
-    const std::string telemetryPath = OutputPath(options.telemetryPath, "--telemetry");
-    const std::string plotPath = OutputPath(options.plotPath, "--plot");
+    const Outputs out{OutputPath(options.savePath, "--save"),
+                      OutputPath(options.statePath, "--state"),
+                      OutputPath(options.hudPath, "--hud"),
+                      OutputPath(options.logPath, "--log"),
+                      OutputPath(options.telemetryPath, "--telemetry"),
+                      OutputPath(options.plotPath, "--plot"),
+                      OutputPath(options.eventsPath, "--events")};
     std::vector<KeyAction> keys;
     if (!options.keysPath.empty())
         keys = ReadKeyScript(fs::absolute(options.keysPath).string());
@@ -125,32 +161,30 @@ void RunScenario(const RunOptions &options) {
     World world(root.string());
     world.seed = options.seed;
     world.accel = options.accel;
-    if (!logPath.empty()) {
+    if (!out.log.empty()) {
         // One run, one log: the file starts empty.
-        world.logFile.open(logPath, std::ios::trunc);
+        world.logFile.open(out.log, std::ios::trunc);
         if (!world.logFile)
-            throw std::runtime_error("can't write '" + logPath + "'");
+            throw std::runtime_error("can't write '" + out.log + "'");
     }
-    LoadScenario(world, scenario);
-    std::optional<RunTelemetry> telemetry;
-    if (!telemetryPath.empty() || !plotPath.empty())
-        telemetry.emplace(telemetryPath, plotPath, options.tracks, options.telemetryInterval, world);
-    RunFrames(world, options, std::move(keys), telemetry ? &*telemetry : nullptr);
-
-    std::optional<std::string> stateText, scenarioText;
-    if (!statePath.empty())
-        stateText =
-            WorldState(world).dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
-    if (!savePath.empty())
-        scenarioText = CaptureScenario(world, scenario).Text();
-    if (!hudPath.empty())
-        WriteFileAtomically(hudPath, HudSvg(DrawFocusHud(world), world));
-    if (stateText)
-        WriteFileAtomically(statePath, *stateText);
-    if (scenarioText)
-        WriteFileAtomically(savePath, *scenarioText);
-    if (telemetry)
-        telemetry->Write();
+    std::optional<EventLog> events;
+    if (!out.events.empty())
+        events.emplace(world, out.events);
+    try {
+        RunWorld(world, scenario, options, out, std::move(keys), events ? &*events : nullptr);
+    } catch (...) {
+        // The events up to the failure tell what led to it; the failure
+        // itself is what the caller reports, not a failure to write them.
+        if (events) {
+            try {
+                events->Write();
+            } catch (const std::exception &) {
+            }
+        }
+        throw;
+    }
+    if (events)
+        events->Write();
 }
 
 } // namespace hullhost::sim

@@ -11,7 +11,7 @@ void CreateVisual(World &w, Vessel &v) {
         return;
     v.visual = std::make_unique<Visual>(v);
     ApplyAnimations(v);
-    CallbackScope scope(w);
+    CallbackScope scope(w, &v);
     static_cast<VESSEL2 *>(v.iface)->clbkVisualCreated(v.visual->Handle(), 1);
 }
 
@@ -19,7 +19,7 @@ void DestroyVisual(World &w, Vessel &v) {
     if (!v.visual)
         return;
     if (v.iface) {
-        CallbackScope scope(w);
+        CallbackScope scope(w, &v);
         static_cast<VESSEL2 *>(v.iface)->clbkVisualDestroyed(v.visual->Handle(), 0);
     }
     v.visual.reset();

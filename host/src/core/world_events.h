@@ -1,0 +1,31 @@
+// What happens in the world that someone outside it may want to hear of: a
+// listener set in World::events is told at the moment each thing happens.
+#pragma once
+
+#include <string>
+
+#include "OrbiterAPI.h"
+
+namespace hullhost {
+
+class Vessel;
+
+class WorldEvents {
+  public:
+    virtual ~WorldEvents() = default;
+    // The text of a vessel's message line changed (also to the empty text).
+    virtual void OnMessage(const Vessel &v, const std::string &text) = 0;
+    // A vessel made at run time (oapiCreateVessel), not one of a scenario.
+    virtual void OnCreated(const Vessel &v) = 0;
+    // A vessel is about to go; its object still exists.
+    virtual void OnDeleted(const Vessel &v) = 0;
+    // The focus moved; null when no vessel is left to take it.
+    virtual void OnFocus(const Vessel *v) = 0;
+    // A buffered key event reached the focus vessel; `kstate` holds the keys
+    // down at that moment.
+    virtual void OnKey(const Vessel &focus, DWORD key, bool down, const char *kstate) = 0;
+    // The time acceleration took a new value.
+    virtual void OnTimeAccel(double value) = 0;
+};
+
+} // namespace hullhost

@@ -1,0 +1,76 @@
+#include "event_log.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "key_names.h"
+#include "scenario/atomic_write.h"
+
+namespace hullhost::sim {
+
+EventLog::EventLog(World &world, std::string path) : world_(world), path_(std::move(path)) {
+    world_.events = this;
+}
+
+EventLog::~EventLog() {
+    if (world_.events == this)
+        world_.events = nullptr;
+}
+
+void EventLog::Add(std::string_view kind, std::initializer_list<Field> fields) {
+    nlohmann::ordered_json event = {{"t", world_.simt}, {"kind", kind}};
+    for (const auto &[name, value] : fields)
+        event[name] = value;
+    text_ += event.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    text_ += '\n';
+}
+
+void EventLog::Write() const { WriteFileAtomically(path_, text_); }
+
+void EventLog::CheckEngines() {
+    for (const auto &v : world_.Vessels()) {
+        const ThrusterGroup *main = v->GroupOfType(THGROUP_MAIN);
+        const double level = main ? v->GroupLevel(*main) : 0.0;
+        auto mark = std::find_if(engines_.begin(), engines_.end(),
+                                 [&v](const EngineMark &m) { return m.vessel == v.get(); });
+        const double last = mark == engines_.end() ? 0.0 : mark->level;
+        if ((level == 0.0) == (last == 0.0) && !(std::abs(level - last) > kEngineStep))
+            continue;
+        Add("engine", {{"vessel", v->Name()}, {"level", level}});
+        if (mark == engines_.end())
+            engines_.push_back({v.get(), level});
+        else
+            mark->level = level;
+    }
+}
+
+void EventLog::OnMessage(const Vessel &v, const std::string &text) {
+    Add("message", {{"vessel", v.Name()}, {"text", text}});
+}
+
+void EventLog::OnCreated(const Vessel &v) {
+    Add("created", {{"vessel", v.Name()}, {"class", v.ClassName()}});
+}
+
+void EventLog::OnDeleted(const Vessel &v) {
+    Add("deleted", {{"vessel", v.Name()}});
+    std::erase_if(engines_, [&v](const EngineMark &m) { return m.vessel == &v; });
+}
+
+void EventLog::OnFocus(const Vessel *v) {
+    Add("focus", {{"vessel", v ? nlohmann::ordered_json(v->Name()) : nlohmann::ordered_json(nullptr)}});
+}
+
+void EventLog::OnKey(const Vessel &focus, DWORD key, bool down, const char *kstate) {
+    // A release carries the name of its press, modifiers and all.
+    std::string &name = pressed_[key & 0xFF];
+    if (down || name.empty())
+        name = KeyNameWithModifiers(key, kstate);
+    Add("key", {{"vessel", focus.Name()}, {"key", name}, {"down", down}});
+    if (!down)
+        name.clear();
+}
+
+void EventLog::OnTimeAccel(double value) { Add("timeaccel", {{"value", value}}); }
+
+} // namespace hullhost::sim
