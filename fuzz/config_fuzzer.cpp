@@ -55,8 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
                                 {"STATUS Orbiting Earth", "RPOS 6571010 0 0", "RVEL 0 0 7788.48",
                                  "AROT 0 0 0", "VROT 0 0 0", "SUBTYPE Fuzz"}});
     hullhost::LoadScenario(world, scenario);
-    world.Frame(0.1);
-    world.Frame(0.1);
+    world.Frame(0.02);
+    world.Frame(0.02);
     hullhost::CaptureScenario(world, scenario).Text();
     return 0;
 }

@@ -14,14 +14,14 @@
 namespace {
 
 // Loads a scenario with the stage's module, flies two frames and returns the
-// saved scenario's text.
+// saved scenario's text. The frames are as long as hullsim's by default.
 std::string Fly(const hullhost::ScenarioFile &scenario) {
     hullhost::World world(fuzzing::Root());
     world.seed = 1;
     fuzzing::UseModule(world, fuzzing::FleetModule::Korvan);
     hullhost::LoadScenario(world, scenario);
-    world.Frame(0.1);
-    world.Frame(0.1);
+    world.Frame(0.02);
+    world.Frame(0.02);
     return hullhost::CaptureScenario(world, scenario).Text();
 }
 
