@@ -15,7 +15,6 @@ void HULLKIT::P_WINDS() {}
 void HULLKIT::H_PARK() {}
 void HULLKIT::H_DUST() {}
 void HULLKIT::H_FAIL_ACT() {}
-void HULLKIT::H_AWARENESS() {}
 void HULLKIT::H_ATM_ENTER_EXIT() {}
 void HULLKIT::H_PLN_ENTER_EXIT() {}
 void HULLKIT::H_UNPARK() {}

@@ -111,6 +111,42 @@ class HULLKIT : public VESSEL3 {
     virtual void OnNoAction();
     virtual void SetCgOffset(double x, double z);
 
+    // --- Control modes and keys -------------------------------------------------
+    // The M key: to the autopilot or to manual control, unless a block text
+    // from PrepareControlToggle bars the way.
+    void ToggleControlMode();
+    void EngageAutopilot();
+    void EngageManual();
+    // For derived vehicles: each shows its text and returns false.
+    bool ManualRefused();
+    bool ManualRefusedAttached();
+    // Gives the focus to the next (or previous) framework vessel that takes it.
+    void StepFocus(bool forward);
+    // Alt+1: the vessel's size to 1 m and back.
+    void ToggleSize();
+    // Shift+N: whether the vessel flies the host's navigation modes itself.
+    void ToggleNavOverride();
+    // Tells the controller that this vessel is in trouble.
+    void RaiseAlert();
+
+    // --- Time acceleration -------------------------------------------------------
+    // Keeps CurrentTimeAccel up to date and the host's acceleration under MaxTimeAccel.
+    void WatchTimeAccel();
+    void SetTimeAccel(double value);
+    // Back to 1x, unless the controller lets the acceleration stay.
+    void DropTimeAccel();
+
+    // --- Children -------------------------------------------------------------------
+    // The vessel hanging on the vessel's child-side attachment `index`, or null.
+    OBJHANDLE CarriedVessel(DWORD index) const;
+    // The empty mass: the vessel's own dry mass and all that it carries.
+    void UpdateCompositeMass();
+
+    // --- Flight environment ------------------------------------------------------
+    // Switches the watches that run while the vessel is free: today the main
+    // engine watch.
+    void UpdateAwareness();
+
     // --- Cameras, focus and the message line ------------------------------------
     // Puts the camera record named CurrentCamera into the host.
     void ApplyCamera();
@@ -263,6 +299,10 @@ class HULLKIT : public VESSEL3 {
     void StartConditionalSequence(const std::string &name, const char *states);
     std::string TimedSequenceText() const;
     std::string ConditionalSequenceText() const;
+    // The conditional sequence's watch: armed for its next step when the
+    // autopilot takes over, stopped when it hands over.
+    void ArmNextConditional();
+    void StopConditionalWatch();
 
     // --- Resource tables -----------------------------------------------------------
     // The tables read the configuration, in their order of loading.
@@ -449,6 +489,9 @@ class HULLKIT : public VESSEL3 {
     AttitudeControlBlock AttControls;
     bool SelfDestructor, NoFocus, Hidden, NoAtmosphereWatch, hideShadows;
     bool HaveAutopilot, AutopilotActive, AutopilotConfigured;
+    // Why the switch to manual control or to the autopilot is refused; empty
+    // when it isn't.
+    std::string ManualBlockText, AutopilotBlockText;
     bool CanAutoSwitchFocus, AutoSwitchFocusConfigured;
     std::string WreckVesselName, WreckSingle;
     VECTOR3 ReentryShinePos;
@@ -458,6 +501,15 @@ class HULLKIT : public VESSEL3 {
     std::string TimerFormat;
     VECTOR3 YawOrbital;
     bool SaveOrbit, CanBeCleanedUp;
+
+    // The main engine: running as of the last watch, and failed for good.
+    bool mainRunning = false, MainEngineFailed = false;
+    // The gimbal's animation controls; null where the vessel has none.
+    ANIM_CTRL_REC *pitchControl = nullptr, *yawControl = nullptr, *rollControl = nullptr;
+    // The framework vessel that carries this one, null when free.
+    HULLKIT *ParentHullkit = nullptr;
+    // The size before the size toggle shrank the vessel; 0 when not shrunk.
+    double SizeBeforeToggle = 0.0;
 
     // Levels of the contrail, hot wake and dust streams. The host reads them
     // through the pointers it was given, so they stay members of the vessel.

@@ -10,3 +10,5 @@ void HULLKIT::StartTimedSequence(const std::string &, double) {}
 void HULLKIT::StartConditionalSequence(const std::string &, const char *) {}
 std::string HULLKIT::TimedSequenceText() const { return std::string(); }
 std::string HULLKIT::ConditionalSequenceText() const { return std::string(); }
+void HULLKIT::ArmNextConditional() {}
+void HULLKIT::StopConditionalWatch() {}

@@ -4,10 +4,9 @@
 
 void HULLKIT::OnFocusLost(OBJHANDLE) {
     HasFocus = false;
-    // The size toggle shrinks the vessel to exactly 1 m; leaving the focus
-    // gives it back the size it goes back to.
-    if (GetSize() == 1.0 && DefaultSize != 1.0)
-        SetSize(DefaultSize);
+    // A vessel shrunk by the size toggle gets its size back with the focus.
+    if (SizeBeforeToggle > 0.0)
+        ToggleSize();
 }
 
 void HULLKIT::OnFocusGained(OBJHANDLE) { HasFocus = true; }

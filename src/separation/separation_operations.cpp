@@ -15,4 +15,3 @@ void HULLKIT::DoWreck() {}
 void HULLKIT::DoBlast(bool) {}
 void HULLKIT::H_DELAYED_EXPL() {}
 void HULLKIT::H_PYRO_SOUND() {}
-void HULLKIT::H_NO_TIME_ACCEL() {}

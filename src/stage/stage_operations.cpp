@@ -1,7 +1,6 @@
 // The stage's engine, jettison and flight program steps.
 #include "stage/korvan.h"
 
-void Korvan::K_IGNITE() {}
 void Korvan::K_FLIGHT() {}
 void Korvan::K_PGM_STEP() {}
 void Korvan::K_DROP_SOZ() {}

@@ -20,7 +20,7 @@ std::vector<std::string> Keys(const std::vector<std::string> &lines) {
 
 TEST_F(ScenarioTest, FreshVesselWritesOnlyTheUpdatersItRuns) {
     ProbeVessel &p = Load();
-    EXPECT_THAT(FrameworkLines(p), ElementsAre("UPDATERS H_ANIM, "));
+    EXPECT_THAT(FrameworkLines(p), ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, "));
 }
 
 TEST_F(ScenarioTest, SaveInMidFlightComesBackToTheSameStateAndText) {

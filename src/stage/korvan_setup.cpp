@@ -1,0 +1,50 @@
+// The stage's first values and its set-up once the framework has built it.
+#include "config/value_scan.h"
+#include "stage/korvan.h"
+
+namespace {
+
+// A plain key's number; a missing or malformed key reads as 0.
+double Number(const std::string &text) {
+    double value = 0.0;
+    ScanDouble(text, value);
+    return value;
+}
+
+} // namespace
+
+void Korvan::InitDefaults() {
+    HULLKIT::InitDefaults();
+    program = std::make_unique<FlightProgram>();
+    prematureSep = fairingDropped = sozDropped = ullageInProgress = false;
+    ignitionsUsed = 0;
+    ullageLeft = 0.0;
+    ignFailAt = 1000;
+}
+
+void Korvan::ApplyConfiguration() {
+    HULLKIT::ApplyConfiguration();
+    NavOverrideAvailable = NavOverrideEnabled = true;
+    pitchControl = AnimCtrlTable.Find("acMainPitch");
+    yawControl = AnimCtrlTable.Find("acMainYaw");
+    rollControl = nullptr; // the engine has no roll gimbal
+    const THRUSTER_REC *main0 = ThrusterTable.Find("Main0");
+    mainThruster = main0 ? main0->handle : nullptr;
+    ullageTime = Number(Cfg("UllageTime"));
+    maxIgnitions = 0;
+    ScanInt(Cfg("MaxNumberOfIgnitions"), maxIgnitions);
+    const TANK_REC *rcs = TankTable.Find("RCS");
+    rcsTank = rcs ? rcs->handle : nullptr;
+
+    // What still hangs on the stage weighs with it; a hidden mesh is a drop
+    // that has happened.
+    const MESH_REC *fairing = MeshTable.Find("Fairing");
+    fairingDropped = fairing && fairing->vis == 0;
+    if (!fairingDropped)
+        DryMass += Number(Cfg("MidFairingMass"));
+    const MESH_REC *soz = MeshTable.Find("SOZL");
+    sozDropped = soz && soz->vis == 0;
+    if (!sozDropped)
+        DryMass += Number(Cfg("EmptySOZMass"));
+    UpdateCompositeMass();
+}

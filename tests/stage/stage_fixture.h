@@ -1,0 +1,67 @@
+// A Korvan stage built into the test program, loaded from the shipped fleet's
+// configuration in the build's root, in a 200 km orbit.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/line_file.h"
+#include "core/program_module.h"
+#include "core/world.h"
+#include "stage/korvan.h"
+
+class StageTest : public ::testing::Test {
+  protected:
+    StageTest() : previous_(std::filesystem::current_path()) {
+        std::filesystem::current_path(HULLKIT_TEST_ROOT);
+        world = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
+        hullhost::SetProgramModulePath("Modules\\Fleet\\Korvan.dll");
+        world->modules.RegisterBuiltin(
+            "Fleet\\Korvan", [](OBJHANDLE h, int fm) -> VESSEL * { return new Korvan(h, fm); },
+            [](VESSEL *v) { delete static_cast<Korvan *>(v); });
+    }
+    ~StageTest() override {
+        world.reset();
+        std::filesystem::current_path(previous_);
+    }
+
+    // A stage in orbit with the scenario lines `extra`; flown by hand unless
+    // `autopilot`.
+    Korvan &Load(const std::vector<std::string> &extra = {}, bool autopilot = false,
+                 const char *name = "Korvan-1") {
+        std::vector<std::string> lines = {
+            "STATUS Orbiting Earth",  "RPOS 6571010.00 0.00 0.00",
+            "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00",
+            "VROT 0.00 0.00 0.00",    autopilot ? "HK_FLAGS 1 0" : "HK_FLAGS 0 0"};
+        lines.insert(lines.end(), extra.begin(), extra.end());
+        hullhost::Vessel &v = world->ConstructVessel(name, "Fleet\\Korvan");
+        world->LoadVesselState(v, lines);
+        world->PostCreate(v);
+        return *static_cast<Korvan *>(v.iface);
+    }
+
+    // Frames of `dt` seconds until `seconds` have passed.
+    void Run(double seconds, double dt = 1.0) {
+        const double end = world->simt + seconds - 1e-9;
+        while (world->simt < end)
+            world->Frame(dt);
+    }
+
+    // The text on the stage's message line.
+    std::string Message(const Korvan &k) const {
+        return reinterpret_cast<hullhost::Annotation *>(k.MessageNote)->text;
+    }
+
+    double GroupLevel(Korvan &k, const char *group) {
+        const THRUSTERGROUP_REC *g = k.ThrusterGroupTable.Find(group);
+        return g && g->handle ? k.GetThrusterGroupLevel(g->handle) : -1.0;
+    }
+
+    std::filesystem::path previous_;
+    std::unique_ptr<hullhost::World> world;
+};
