@@ -1,7 +1,6 @@
 // The road of a vessel: loading its scenario block, reading its
 // configuration, finishing it in the host, and its step.
 #include <cstring>
-#include <cstring>
 #include <strings.h>
 
 #include "config/value_scan.h"
@@ -64,18 +63,6 @@ void HULLKIT::ApplyConfiguration() {
     ReplayScenarioLines();
     SetEnableFocus(FocusEnabled);
     FindMainTank();
-    // The controller's block holds the fleet's orbit: two altitudes in km
-    // above the fixed Earth radius and an inclination in degrees.
-    if (ControllerObject && ControllerData) {
-        const auto *block = static_cast<const unsigned char *>(ControllerData);
-        double insertion, target, inclination;
-        std::memcpy(&insertion, block + 152, sizeof insertion);
-        std::memcpy(&target, block + 160, sizeof target);
-        std::memcpy(&inclination, block + 168, sizeof inclination);
-        OrbitInsertRadius = insertion * 1000.0 + 6371000.0;
-        OrbitTargetRadius = target * 1000.0 + 6371000.0;
-        OrbitInclination = inclination * 0.017453292519943295;
-    }
     // The controller's block holds the fleet's orbit: two altitudes in km
     // above the fixed Earth radius and an inclination in degrees.
     if (ControllerObject && ControllerData) {
