@@ -1,0 +1,125 @@
+// The shipped fleet through hullsim, as a user runs it: a piece standing on
+// the ground for a day, and Korvan stages flown by a key script.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "hullsim_fixture.h"
+
+using hosttest::ReadText;
+using hosttest::WriteText;
+
+namespace {
+
+using HullsimFleetTest = hosttest::HullsimFixture;
+
+// Stays where it stands, landed, turning with the Earth, at several time
+// accelerations and frame lengths.
+TEST_F(HullsimFleetTest, LandedPieceStaysPutForADayAtAnyAcceleration) {
+    WriteText(dir / "landed.scn", "BEGIN_ENVIRONMENT\n  Date MJD 61000.5\nEND_ENVIRONMENT\n"
+                                  "BEGIN_SHIPS\nG-1:Fleet\\Generic\n  STATUS Landed Earth\n"
+                                  "  POS -80.6 28.5\n  HEADING 90\nEND\nEND_SHIPS\n");
+    auto surface = [&](const std::vector<std::string> &extra) {
+        std::vector<std::string> args = {"run",     dir / "landed.scn", "--root", HULLKIT_BUILD_ROOT,
+                                         "--state", dir / "state.json"};
+        args.insert(args.end(), extra.begin(), extra.end());
+        const hosttest::Result r = Run(args);
+        EXPECT_EQ(r.code, 0) << r.err;
+        const auto json = nlohmann::json::parse(ReadText(dir / "state.json"));
+        EXPECT_EQ(json["vessels"][0]["status"], "landed");
+        return json["vessels"][0]["surface"];
+    };
+    const auto start = surface({});
+    EXPECT_NEAR(start["longitude"].get<double>(), -80.6, 1e-9);
+    EXPECT_NEAR(start["heading"].get<double>(), 90.0, 1e-9);
+
+    constexpr double kMetresPerDegree = 6371010.0 * 0.017453292519943295;
+    for (auto [accel, dt] : {std::pair{"1", "1"}, {"10", "0.5"}, {"100", "0.1"}, {"1000", "0.05"}}) {
+        const auto end = surface({"--for", "86400", "--accel", accel, "--dt", dt});
+        EXPECT_NEAR(end["latitude"].get<double>(), 28.5, 0.01 / kMetresPerDegree) << accel;
+        EXPECT_NEAR(end["longitude"].get<double>(), -80.6, 0.01 / kMetresPerDegree / 0.88) << accel;
+        EXPECT_NEAR(end["altitude"].get<double>(), start["altitude"].get<double>(), 0.01) << accel;
+        EXPECT_NEAR(end["heading"].get<double>(), 90.0, 0.001) << accel;
+    }
+}
+
+// A stage of the given scenario lines, in the demo's 200 km orbit, flown by hand.
+std::string Stage(const std::string &name, const std::string &lines) {
+    return name +
+           ":Fleet\\Korvan\n  STATUS Orbiting Earth\n  RPOS 6571010 0 0\n  RVEL 0 0 7788.48\n"
+           "  AROT 0 0 0\n  VROT 0 0 0\n" +
+           lines + "END\n";
+}
+
+// One stage is flown through an ignition and a burn; the focus then walks
+// over four more, each of which refuses the ignition for its own reason.
+TEST_F(HullsimFleetTest, StagesFlownByKeysIgniteBurnShutDownAndRefuse) {
+    WriteText(dir / "fleet.scn",
+              "BEGIN_ENVIRONMENT\n  Date MJD 61000.5\nEND_ENVIRONMENT\nBEGIN_FOCUS\n  Ship K1\nEND_FOCUS\n"
+              "BEGIN_SHIPS\nControl:Fleet\\Controller\n  STATUS Landed Earth\n  POS 0 0\nEND\n" +
+                  Stage("K1", "") + Stage("K2", "  HK_FLAGS 0 0\n  IGNITE 0 30\n") +
+                  Stage("K3", "  HK_FLAGS 0 0\n  RES_MODS Tanks Main:0.00005\n") +
+                  Stage("K4", "  HK_FLAGS 0 0\n  RES_MODS Meshes SOZL:Flags!0,\n") +
+                  Stage("K5", "  HK_FLAGS 0 0\n  RES_MODS Tanks RCS:0.04\n") + "END_SHIPS\n");
+    // Keypad + is held through the ullage and past the ignition.
+    WriteText(dir / "fly.keys", "1 M\n2 KP_PLUS 11\n40 KP_MINUS 0.2\n"
+                                "41 Shift+TAB\n42 KP_PLUS 0.1\n43 Shift+TAB\n44 KP_PLUS 0.1\n"
+                                "45 Shift+TAB\n46 KP_PLUS 0.1\n47 Shift+TAB\n48 KP_PLUS 0.1\n");
+    const hosttest::Result r =
+        Run({"run", dir / "fleet.scn", "--root", HULLKIT_BUILD_ROOT, "--for", "50", "--dt", "0.1", "--keys",
+             dir / "fly.keys", "--events", dir / "events.jsonl", "--telemetry", dir / "flight.csv", "--track",
+             "K1", "--telemetry-interval", "1"});
+    ASSERT_EQ(r.code, 0) << r.err;
+
+    std::vector<std::pair<std::string, std::string>> messages;
+    std::vector<std::pair<double, double>> engine;
+    std::istringstream events(ReadText(dir / "events.jsonl"));
+    for (std::string line; std::getline(events, line);) {
+        const auto e = nlohmann::json::parse(line);
+        if (e["kind"] == "message" && e["text"] != "")
+            messages.emplace_back(e["vessel"], e["text"]);
+        if (e["kind"] == "engine" && e["vessel"] == "K1")
+            engine.emplace_back(e["t"], e["level"]);
+    }
+    using M = std::pair<std::string, std::string>;
+    EXPECT_EQ(messages, (std::vector<M>{
+                            {"K1", "Manual controls enabled. To return to autopilot, use M key"},
+                            {"K1", "Ullage started. Ignition in 10 sec"},
+                            {"K1", "Main engine firing is already in progress."},
+                            {"K1", "Main engine shutdown. 29 engine firings left."},
+                            {"K2", "Ignitions limit for main engine is reached!"},
+                            {"K3", "Main tank depleted!"},
+                            {"K4", "Main engine ignition is not possible without SOZ!"},
+                            {"K5", "Not enough ullage fuel for main engine ignition!"},
+                        }));
+    // Lit at the first step of 0.1 s that takes the 10 s countdown below 0.
+    ASSERT_EQ(engine.size(), 2u);
+    EXPECT_NEAR(engine[0].first, 12.1, 1e-6);
+    EXPECT_EQ(engine[0].second, 1.0);
+    EXPECT_NEAR(engine[1].first, 40.0, 1e-6);
+    EXPECT_EQ(engine[1].second, 0.0);
+
+    // The burn, as the telemetry saw it, gains what the rocket equation allows
+    // and raises the apogee.
+    std::ifstream csv(dir / "flight.csv");
+    std::map<int, std::vector<double>> rows;
+    std::string line;
+    std::getline(csv, line);
+    while (std::getline(csv, line)) {
+        std::vector<double> fields;
+        std::istringstream cells(line);
+        for (std::string cell; std::getline(cells, cell, ',');)
+            fields.push_back(std::atof(cell.c_str()));
+        rows[static_cast<int>(std::lround(fields[0]))] = fields;
+    }
+    const auto speed = [&](int t) { return rows.at(t)[3]; };
+    const auto mass = [&](int t) { return rows.at(t)[7]; };
+    const double dv = 3250.0 * std::log(mass(13) / mass(39));
+    EXPECT_NEAR((speed(39) - speed(13)) / dv, 1.0, 0.02);
+    EXPECT_GT(rows.at(45)[4], rows.at(10)[4] + 100e3);
+}
+
+} // namespace
