@@ -22,9 +22,11 @@ void Korvan::IgniteMain() {
     }
     if (ullageInProgress)
         return;
-    // A stage built without the engine's records can't start it.
-    if (!MainTank || !rcsTank || !groupMain || !groupFwd)
+    // A stage configured without the engine's tanks or groups can't start it.
+    if (!MainTank || !rcsTank || !groupMain || !groupFwd) {
+        ShowMessage("Main engine ignition is not possible: the stage has no main engine!");
         return;
+    }
     if (GetPropellantMass(MainTank) < kMinMainPropellant) {
         ShowMessage("Main tank depleted!");
         return;

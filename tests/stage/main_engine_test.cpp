@@ -70,6 +70,10 @@ TEST_F(EngineTest, EveryRefusalShowsItsTextAndChangesNothing) {
     k.SetPropellantMass(k.rcsTank, 5.0999);
     refused("Not enough ullage fuel for main engine ignition!");
     k.SetPropellantMass(k.rcsTank, 5.1);
+    const PROPELLANT_HANDLE rcs = k.rcsTank;
+    k.rcsTank = nullptr; // as if the configuration had no RCS tank
+    refused("Main engine ignition is not possible: the stage has no main engine!");
+    k.rcsTank = rcs;
     k.SetThrusterGroupLevel(k.groupMain, 0.5); // lit, and the watch hasn't seen it yet
     refused("Main engine firing is already in progress.");
     k.SetThrusterGroupLevel(k.groupMain, 0.0);
