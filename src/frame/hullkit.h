@@ -13,6 +13,7 @@
 #include "config/pitch_profile.h"
 #include "control/attitude_controls.h"
 #include "environment/failure_entry.h"
+#include "frame/sequence_types.h"
 #include "frame/vessel_call.h"
 #include "resources/mesh_changes.h"
 #include "resources/resource_tables.h"
@@ -293,16 +294,51 @@ class HULLKIT : public VESSEL3 {
     // their order of writing.
     void WriteFrameworkKeys(FILEHANDLE scn);
     void WriteListKeys(FILEHANDLE scn);
-    // The sequence lines: restart a sequence, and its text for saving (empty
-    // when none runs).
+
+    // --- Sequences ---------------------------------------------------------------
+    // A sequence is a chain of steps that the scenario starts by name; a plain
+    // key of the configuration (or, through the controller's look-up, the key
+    // that it names) spells out the steps. A timed sequence fires each step at
+    // its time on the sequence's own clock; a conditional sequence runs one
+    // step at a time, each once its flag is true.
+    //
+    // The steps a configuration may name are the rows of the vessel class's
+    // two tables; HULLKIT has none. A derived class lists its rows in static
+    // tables and returns them from the overrides:
+    //
+    //   const TimedAction kTimed[] = {
+    //       {"RELEASE_STAGE", static_cast<VesselCall>(&Carrier::ReleaseStage)}};
+    //   const ConditionalAction kConditional[] = {
+    //       {"RELEASE_WHEN_STILL", static_cast<VesselCall>(&Carrier::W_STILL),
+    //        static_cast<SequenceFlag>(&Carrier::Still),
+    //        static_cast<VesselCall>(&Carrier::ReleaseStage)}};
+    //   TimedActionTable TimedActions() const override { return kTimed; }
+    //   ConditionalActionTable ConditionalActions() const override { return kConditional; }
+    //
+    // A watch is an updater: it needs a row in the class's updater table
+    // (RegisterStageTables), and it sets its flag when its condition holds.
+    virtual TimedActionTable TimedActions() const;
+    virtual ConditionalActionTable ConditionalActions() const;
+    // The value of the sequence key `name`, or of the key the controller names
+    // for it; `source` becomes the name that led to the value. Empty when
+    // neither gives one.
+    std::string FindSequence(const std::string &name, std::string &source);
+    // Start a sequence, also from its scenario line: the timed one with its
+    // clock at `clock`, the conditional one with the flags of `states` ("1,0,"
+    // as saved; null clears every flag).
     void StartTimedSequence(const std::string &name, double clock);
     void StartConditionalSequence(const std::string &name, const char *states);
-    std::string TimedSequenceText() const;
-    std::string ConditionalSequenceText() const;
-    // The conditional sequence's watch: armed for its next step when the
-    // autopilot takes over, stopped when it hands over.
+    void ParseTimedSequence(const std::string &name, std::string value);
+    void ParseConditionalSequence(const std::string &name, std::string value);
+    void EndTimedSequence();
+    // The conditional sequence's watch: armed for its next step (and when the
+    // autopilot takes over), stopped when the vessel goes over to manual control.
     void ArmNextConditional();
     void StopConditionalWatch();
+    // The texts of the scenario lines, empty when no sequence runs.
+    std::string TimedSequenceText() const;
+    std::string ConditionalSequenceText() const;
+    // The running sequences' members follow the timer lists below.
 
     // --- Resource tables -----------------------------------------------------------
     // The tables read the configuration, in their order of loading.
@@ -430,6 +466,21 @@ class HULLKIT : public VESSEL3 {
     double NextSecond;
     std::vector<VesselCall> MinuteEvents;
     double NextMinute;
+
+    // --- Sequences: the running ones --------------------------------------------
+    // The timed sequence and its name as started. Its clock and the clock
+    // display's format are TimedClock and TimerFormat.
+    std::vector<TimedStep> TimedSteps;
+    std::string TimedName;
+    // The conditional sequence: rows copied from the table, the name that led
+    // to its value, which steps have run, and the step waited for.
+    static constexpr std::size_t kMaxConditionalSteps = 50;
+    std::vector<ConditionalAction> ConditionalSteps;
+    std::string ConditionalName;
+    bool ConditionalDone[kMaxConditionalSteps] = {};
+    int32_t CurrentIndex = 0;
+    SequenceFlag CurrentFlag = nullptr;
+    VesselCall CurrentAction = nullptr;
 
     OBJHANDLE ControllerObject;
     HULLKIT *ControllerHullkit;

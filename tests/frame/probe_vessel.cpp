@@ -21,7 +21,22 @@ const NamedCall kProbeEvents[] = {
     {"E_READDS_SELF", static_cast<VesselCall>(&ProbeVessel::E_READDS_SELF)},
 };
 
+const TimedAction kProbeTimedActions[] = {
+    {"DO_A", static_cast<VesselCall>(&ProbeVessel::S_A)},
+    {"DO_B", static_cast<VesselCall>(&ProbeVessel::S_B)},
+};
+
+const ConditionalAction kProbeConditionalActions[] = {
+    {"WHEN_A", static_cast<VesselCall>(&ProbeVessel::U_A), static_cast<SequenceFlag>(&ProbeVessel::flagA),
+     static_cast<VesselCall>(&ProbeVessel::S_A)},
+    {"WHEN_B", static_cast<VesselCall>(&ProbeVessel::U_B), static_cast<SequenceFlag>(&ProbeVessel::flagB),
+     static_cast<VesselCall>(&ProbeVessel::S_B)},
+};
+
 } // namespace
+
+TimedActionTable ProbeVessel::TimedActions() const { return kProbeTimedActions; }
+ConditionalActionTable ProbeVessel::ConditionalActions() const { return kProbeConditionalActions; }
 
 ProbeVessel::ProbeVessel(OBJHANDLE h, int fmodel) : HULLKIT(h, fmodel) {
     RegisterStageTables(kProbeUpdaters, kProbeEvents);
@@ -83,6 +98,9 @@ void ProbeVessel::U_REMOVES_A() {
     runs.push_back("REMOVES_A");
     RemoveUpdater(static_cast<VesselCall>(&ProbeVessel::U_A));
 }
+
+void ProbeVessel::S_A() { steps.push_back("S_A@" + std::to_string(TimedClock)); }
+void ProbeVessel::S_B() { steps.push_back("S_B@" + std::to_string(TimedClock)); }
 
 void ProbeVessel::E_ONE() { runs.push_back("ONE@" + std::to_string(SimTime)); }
 void ProbeVessel::E_TWO() { runs.push_back("TWO@" + std::to_string(SimTime)); }

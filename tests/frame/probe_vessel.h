@@ -28,6 +28,16 @@ class ProbeVessel : public HULLKIT {
     void E_TWO();
     void E_READDS_SELF();
 
+    // Sequence steps, logged in `steps` with the timed clock: DO_A and DO_B in
+    // the timed table; WHEN_A and WHEN_B in the conditional one, watched by
+    // U_A and U_B and opened by flagA and flagB.
+    TimedActionTable TimedActions() const override;
+    ConditionalActionTable ConditionalActions() const override;
+    void S_A();
+    void S_B();
+    bool flagA = false, flagB = false;
+    std::vector<std::string> steps;
+
     std::vector<std::string> firstPass, secondPass, runs;
     int applyCount = 0;
 
