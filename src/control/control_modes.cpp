@@ -41,7 +41,7 @@ void HULLKIT::EngageManual() {
     AutopilotActive = false;
     StopConditionalWatch();
     // A running main engine is left alone: the vessel decides in OnManualControl.
-    for (size_t i = 0; i < ThrusterGroupTable.Count(); ++i)
+    for (int32_t i = 0; i < ThrusterGroupTable.Count(); ++i)
         if (ThrusterGroupTable.NameAt(i) != "Main")
             if (THRUSTERGROUP_REC *group = ThrusterGroupTable.At(i); group && group->handle)
                 SetThrusterGroupLevel(group->handle, 0.0);

@@ -137,11 +137,35 @@ class HULLKIT : public VESSEL3 {
     // Back to 1x, unless the controller lets the acceleration stay.
     void DropTimeAccel();
 
-    // --- Children -------------------------------------------------------------------
+    // --- Children and the carrier ---------------------------------------------------
     // The vessel hanging on the vessel's child-side attachment `index`, or null.
     OBJHANDLE CarriedVessel(DWORD index) const;
     // The empty mass: the vessel's own dry mass and all that it carries.
     void UpdateCompositeMass();
+    // Creates a child record's point in the host and hangs on it the vessel
+    // the record (or, for a free record, the vessel's scenario line) names.
+    void AttachChildRec(CHILD_REC &rec);
+    // Releases the vessel on the point at `velocity` m/s along the point.
+    void DetachChildRec(CHILD_REC &rec, double velocity);
+    // The child's landed place: this vessel's.
+    void MatchLandedState(CHILD_REC &rec);
+    // Makes a framework vessel at run time, `<own name>-<suffix>` of the class
+    // `<class folder>\<className>`, and hangs it on `carrier`'s record
+    // `recordName` at once. `source` hands it its animation states and textures.
+    HULLKIT *CreateChildVessel(const char *className, const char *variant, const char *suffix,
+                               HULLKIT *source, HULLKIT *carrier, const std::string &recordName);
+    // The steps the host's scenario road would have run, for a spawned vessel.
+    void FinishDeferredCreation();
+    // Releases the vessel on `child` under the drawn velocity and forces of
+    // `sep` (none when null), with the after-effects the flags ask for.
+    void SeparateChild(CHILD_REC &child, SEPARATION_REC *sep, bool enableFocus, bool switchFocus,
+                       bool igniteChild, bool pyroSound);
+    // Three independent draws within from + span, in the order z, y, x.
+    static VECTOR3 RandomVector(const VECTOR3 &from, const VECTOR3 &span);
+    // The stage's child record reader: a scenario line "<key> <vessel> [geometry]".
+    void ReadChildLine(CHILD_REC &rec, const std::string &line);
+    // The child lines of the records that hold a vessel, and PARENT.
+    void WriteChildLines(FILEHANDLE scn);
 
     // --- Flight environment ------------------------------------------------------
     // Switches the watches that run while the vessel is free: today the main
@@ -557,8 +581,14 @@ class HULLKIT : public VESSEL3 {
     bool mainRunning = false, MainEngineFailed = false;
     // The gimbal's animation controls; null where the vessel has none.
     ANIM_CTRL_REC *pitchControl = nullptr, *yawControl = nullptr, *rollControl = nullptr;
-    // The framework vessel that carries this one, null when free.
+    // The carrier, set when this vessel is hung on it; and the name of the
+    // carrier's record that holds it.
+    OBJHANDLE ParentObject = nullptr;
+    VESSEL *ParentVessel = nullptr;
     HULLKIT *ParentHullkit = nullptr;
+    std::string AttachedAs;
+    // The shift of the centre of gravity in force from SetCgOffset.
+    VECTOR3 CgShift{0, 0, 0};
     // The size before the size toggle shrank the vessel; 0 when not shrunk.
     double SizeBeforeToggle = 0.0;
 

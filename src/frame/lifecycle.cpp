@@ -57,6 +57,9 @@ void HULLKIT::ApplyConfiguration() {
     SetVisibilityLimit(VisLimitMesh, VisLimitSpot);
     if (AnimCtrlTable.Count() > 0)
         AddUpdater(&HULLKIT::H_ANIM);
+    for (int32_t i = 0; i < ChildTable.Count(); ++i)
+        if (CHILD_REC *rec = ChildTable.At(i))
+            AttachChildRec(*rec);
     AddLevelStreams();
     if (CgOffset.x != 0.0 || CgOffset.y != 0.0 || CgOffset.z != 0.0)
         ShiftCG(CgOffset);

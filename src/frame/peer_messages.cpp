@@ -93,9 +93,17 @@ int HULLKIT::LookUpInt(const char *name) {
 
 bool HULLKIT::LookUpFlag(const char *name) { return LookUpInt(name) > 0; }
 
-// The framework answers messages 12 (the sound load), 19 (a delayed
-// explosion) and 20 (the landed state of attached children) once those
-// subsystems exist. Every answer is 0.
-intptr_t HULLKIT::OnPeerMessage(OBJHANDLE, int, intptr_t) { return 0; }
+// The framework acts on message 20 (the landed state of attached children,
+// passed down the chain); 12 (the sound load) and 19 (a delayed explosion)
+// come with their subsystems. Every answer is 0.
+intptr_t HULLKIT::OnPeerMessage(OBJHANDLE, int code, intptr_t) {
+    if (code == 20)
+        for (int32_t i = 0; i < ChildTable.Count(); ++i)
+            if (CHILD_REC *rec = ChildTable.At(i); rec && !rec->AttachedName.empty() && rec->ChildHullkit) {
+                MatchLandedState(*rec);
+                SendPeerMessage(rec->ChildObject, 20, 0);
+            }
+    return 0;
+}
 
 double HULLKIT::OnPeerMessageDouble(OBJHANDLE, int, double) { return 0.0; }

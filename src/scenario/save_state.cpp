@@ -52,6 +52,7 @@ void HULLKIT::clbkSaveState(FILEHANDLE scn) {
     WriteResourceAll(scn, nullptr);
     WriteResModsAll(scn);
     WriteMeshTextures(scn, nullptr);
+    WriteChildLines(scn);
     if (Differs(ToParentPos, ConfigToParentPos) || Differs(ToParentDir, ConfigToParentDir) ||
         Differs(ToParentRot, ConfigToParentRot)) {
         const VECTOR3 &p = ToParentPos, &d = ToParentDir, &r = ToParentRot;

@@ -1,11 +1,6 @@
 // Children, separation and crash.
 #include "frame/hullkit.h"
 
-void HULLKIT::KeepAwareWhileAttached() {}
-void HULLKIT::OnAttached() {}
-void HULLKIT::OnDetached() {}
-void HULLKIT::OnChildLost(OBJHANDLE) {}
-void HULLKIT::SetCgOffset(double, double) {}
 void HULLKIT::OnSoftLanding() {}
 void HULLKIT::OnOverpressure() {}
 void HULLKIT::OnHardLanding() {}

@@ -39,6 +39,8 @@ class Korvan : public HULLKIT {
     void OnFailure() override;
     void PrepareControlToggle() override;
     void OnAutopilotThrottle() override;
+    void OnDetached() override;
+    void JettisonNext() override;
 
     // --- The main engine ------------------------------------------------------
     // Starts the ullage countdown, unless the engine can't or needn't start;
@@ -51,8 +53,11 @@ class Korvan : public HULLKIT {
     void UpdateMainGimbal(ANIM_CTRL_REC *control);
     // The end of the ullage countdown.
     void Ignite();
-    // Separates the SOZ; nothing while they can't be separated yet.
+    // --- Jettison ---------------------------------------------------------------
+    // Spawns the two SOZ, which leave 0.2 s later.
     void DropSoz();
+    // Releases a payload, and vents 5 s later if nothing hangs on the stage any more.
+    void SeparateAndVent(CHILD_REC &child, SEPARATION_REC *sep);
 
     // The stage's updaters.
     void K_IGNITE();

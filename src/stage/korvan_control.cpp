@@ -50,7 +50,10 @@ intptr_t Korvan::OnPeerMessage(OBJHANDLE sender, int code, intptr_t argument) {
         ShutdownMain();
         return 1;
     case 692:
-        // The payload's release comes with the jettison of elements.
+        // The program's JETT step names the payload and its separation.
+        if (const auto *step = reinterpret_cast<const ProgramStep *>(argument))
+            if (CHILD_REC *rec = ChildTable.Find(step->childName))
+                SeparateAndVent(*rec, SeparationTable.Find(step->sepName));
         return 1;
     default:
         return HULLKIT::OnPeerMessage(sender, code, argument);

@@ -158,6 +158,3 @@ void Korvan::UpdateMainGimbal(ANIM_CTRL_REC *control) {
 }
 
 void Korvan::OnControllerMoved(ANIM_CTRL_REC *controller) { UpdateMainGimbal(controller); }
-
-// The jettison of the SOZ comes with the separation of elements.
-void Korvan::DropSoz() {}
