@@ -41,10 +41,7 @@ void HULLKIT::EngageManual() {
     AutopilotActive = false;
     StopConditionalWatch();
     // A running main engine is left alone: the vessel decides in OnManualControl.
-    for (int32_t i = 0; i < ThrusterGroupTable.Count(); ++i)
-        if (ThrusterGroupTable.NameAt(i) != "Main")
-            if (THRUSTERGROUP_REC *group = ThrusterGroupTable.At(i); group && group->handle)
-                SetThrusterGroupLevel(group->handle, 0.0);
+    StopThrusterGroups("Main");
     OnManualControl();
 }
 
@@ -56,4 +53,11 @@ bool HULLKIT::ManualRefused() {
 bool HULLKIT::ManualRefusedAttached() {
     ShowMessage("Manual controls are disabled until separated from carrier.");
     return false;
+}
+
+void HULLKIT::StopThrusterGroups(const std::string &except) {
+    for (int32_t i = 0; i < ThrusterGroupTable.Count(); ++i)
+        if (THRUSTERGROUP_REC *group = ThrusterGroupTable.At(i);
+            group && group->handle && group->name != except)
+            SetThrusterGroupLevel(group->handle, 0.0);
 }

@@ -118,6 +118,8 @@ class HULLKIT : public VESSEL3 {
     void ToggleControlMode();
     void EngageAutopilot();
     void EngageManual();
+    // Every group of the thruster group table to 0, but the one named `except`.
+    void StopThrusterGroups(const std::string &except = {});
     // For derived vehicles: each shows its text and returns false.
     bool ManualRefused();
     bool ManualRefusedAttached();

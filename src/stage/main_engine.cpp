@@ -88,9 +88,7 @@ void Korvan::ShutdownMain() {
         DeactivateNavmode(mode);
     ullageInProgress = false;
     RemoveUpdater(static_cast<VesselCall>(&Korvan::K_IGNITE));
-    for (int32_t i = 0; i < ThrusterGroupTable.Count(); ++i)
-        if (THRUSTERGROUP_REC *group = ThrusterGroupTable.At(i); group && group->handle)
-            SetThrusterGroupLevel(group->handle, 0.0);
+    StopThrusterGroups();
     oapiDebugString()[0] = '\0';
     if (MainEngineFailed) {
         ShowMessage("Main engine ignition failure!");
@@ -105,9 +103,7 @@ void Korvan::ShutdownMain() {
 }
 
 void Korvan::FailIgnition() {
-    for (int32_t i = 0; i < ThrusterGroupTable.Count(); ++i)
-        if (THRUSTERGROUP_REC *group = ThrusterGroupTable.At(i); group && group->handle)
-            SetThrusterGroupLevel(group->handle, 0.0);
+    StopThrusterGroups();
     MainEngineFailed = true;
     if (AutopilotActive)
         ToggleControlMode();
