@@ -10,9 +10,11 @@
 #   scripts/fuzz.sh --replay             only replays the regression cases
 #
 # Targets: config, scenario_file, vessel_scenario, key_script. The corpus
-# grows in build-fuzz/corpus/<target>/ and is kept between runs. A finding
-# stops the run and is left in build-fuzz/findings/<target>/; once it is
-# fixed, keep it as fuzz/regressions/<target>/<what-it-was>.
+# grows in build-fuzz/corpus/<target>/ and is kept between runs; it starts
+# from the seeds and from fuzz/corpus/<target>/, a minimised corpus of long
+# runs kept in the repository where it is small. A finding fails the run and
+# is left in build-fuzz/findings/<target>/; once it is fixed, keep it as
+# fuzz/regressions/<target>/<what-it-was>.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 top=$PWD
@@ -33,7 +35,7 @@ while [ $# -gt 0 ]; do
         shift
         ;;
     -h | --help)
-        sed -n '2,16p' "$0" | sed 's/^# \{0,1\}//'
+        sed -n '2,18p' "$0" | sed 's/^# \{0,1\}//'
         exit 0
         ;;
     *)
@@ -124,9 +126,11 @@ for t in "${targets[@]}"; do
     mkdir -p "$corpus" "$findings"
     echo "== $t: fuzzing for $seconds s"
     log=$top/build-fuzz/$t.log
+    # New inputs go to the first folder; the others only feed the start.
+    inputs=("$corpus" "$top/build-fuzz/seeds/$t" "$regressions")
+    [ -d "fuzz/corpus/$t" ] && inputs+=("$top/fuzz/corpus/$t")
     if ! "$fuzzer" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
-        -dict="$top/fuzz/dicts/$t.dict" -artifact_prefix="$findings/" \
-        "$corpus" "$top/build-fuzz/seeds/$t" "$regressions" >"$log" 2>&1; then
+        -dict="$top/fuzz/dicts/$t.dict" -artifact_prefix="$findings/" "${inputs[@]}" >"$log" 2>&1; then
         tail -n 60 "$log"
         echo "== $t: FINDING, see $findings/ and $log" >&2
         status=1
