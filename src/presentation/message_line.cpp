@@ -1,11 +1,13 @@
 // The on-screen message line, which empties itself four seconds after a text.
-#include <string>
+#include <cstdio>
 
 #include "frame/hullkit.h"
 
 void HULLKIT::ShowMessage(const char *text) {
-    std::string line = text ? text : "";
-    oapiAnnotationSetText(MessageNote, line.data());
+    // Held keys repeat their refusal every frame: no allocation on this road.
+    char line[512];
+    std::snprintf(line, sizeof line, "%s", text ? text : "");
+    oapiAnnotationSetText(MessageNote, line);
     // An armed clearing isn't armed again: a newer text keeps the first deadline.
     AddOneShot(4.0, &HULLKIT::H_HIDE_ANNOT);
 }
