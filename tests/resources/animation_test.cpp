@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "anim_fixture.h"
+#include "numbers.h"
 
 using ::testing::ElementsAre;
 
@@ -49,8 +50,7 @@ TEST_F(AnimTest, ComponentsReachTheHostWithTheirGroupsAndLinks) {
     ASSERT_NE(door.rotate, nullptr);
     EXPECT_EQ(door.transform.get(), door.rotate);
     EXPECT_EQ(shared.components[0]->transform, door.rotate);
-    EXPECT_DOUBLE_EQ(door.rotate->ref.z, 1.0);
-    EXPECT_DOUBLE_EQ(door.rotate->axis.x, 1.0);
+    EXPECT_THAT(Of(door.rotate->ref, door.rotate->axis), Are({0, 0, 1, 1, 0, 0}));
     EXPECT_FLOAT_EQ(door.rotate->angle, static_cast<float>(PI / 2));
     EXPECT_EQ(door.rotate->grp, p.AnimGroupStore);
     EXPECT_EQ(door.rotate->ngrp, 2u);
@@ -85,9 +85,7 @@ TEST_F(AnimTest, ControllersTakeTheirAnimationAndRunUnderTheUpdater) {
     const ANIM_CTRL_REC &door = *Ctl("DoorCtl");
     EXPECT_EQ(door.animIndex, 0);
     EXPECT_EQ(door.animation, p.AnimTable.Find("Door")->animation);
-    EXPECT_DOUBLE_EQ(door.state, 0.25);
-    EXPECT_DOUBLE_EQ(door.vel0, 0.5);
-    EXPECT_DOUBLE_EQ(door.target, -1.0);
+    EXPECT_THAT((Numbers{door.state, door.vel0, door.target}), Are({0.25, 0.5, -1}));
     EXPECT_EQ(door.direction, 0);
     EXPECT_EQ(door.sndPlusStop, "Clank");
     EXPECT_TRUE(Ctl("Wheel")->noHardStop);
@@ -100,8 +98,7 @@ TEST_F(AnimTest, ControllersTakeTheirAnimationAndRunUnderTheUpdater) {
     Ctl("DoorCtl")->direction = 1;
     env.Run(2.0, 0.25);
     EXPECT_EQ(door.direction, 0);
-    EXPECT_DOUBLE_EQ(door.state, 1.0);
-    EXPECT_DOUBLE_EQ(HostState(&door), 1.0);
+    EXPECT_THAT((Numbers{door.state, HostState(&door)}), Are({1, 1}));
 
     // A controller of an animation that doesn't exist never moves.
     Ctl("Lost")->direction = 1;
@@ -115,14 +112,12 @@ TEST_F(AnimTest, AControllerWithoutWrapStopsAtItsEnds) {
     c->direction = 1;
     // Accelerating from 0.2 by 0.1 per second squared, in steps of 0.5 s.
     Step(c, 0.5);
-    EXPECT_DOUBLE_EQ(c->vel, 0.25);
-    EXPECT_DOUBLE_EQ(c->state, 0.375);
+    EXPECT_THAT((Numbers{c->vel, c->state}), Are({0.25, 0.375}));
     Step(c, 0.5, 3);
     EXPECT_NEAR(c->state, 0.9, 1e-12);
     Step(c, 0.5);
-    EXPECT_DOUBLE_EQ(c->state, 1.0);
+    EXPECT_THAT((Numbers{c->state, c->vel}), Are({1, 0.2}));
     EXPECT_EQ(c->direction, 0);
-    EXPECT_DOUBLE_EQ(c->vel, 0.2);
     // Both controllers of the animation see its state; the end stop is
     // reported once, and a controller at rest at its end reports nothing.
     EXPECT_DOUBLE_EQ(Ctl("DoorCtl")->state, 1.0);
@@ -135,8 +130,7 @@ TEST_F(AnimTest, AControllerWithoutWrapStopsAtItsEnds) {
 
     c->direction = -1;
     Step(c, 10.0);
-    EXPECT_DOUBLE_EQ(c->state, 0.0);
-    EXPECT_DOUBLE_EQ(HostState(c), 0.0);
+    EXPECT_THAT((Numbers{c->state, HostState(c)}), Are({0, 0}));
     EXPECT_THAT(p.hooks, ElementsAre("stop Twin", "moved Twin"));
 }
 
@@ -150,8 +144,7 @@ TEST_F(AnimTest, AWrappingControllerGoesRoundBothWays) {
     EXPECT_EQ(c->direction, 1);
     c->direction = -1;
     Step(c, 0.3);
-    EXPECT_NEAR(c->state, 0.8, 1e-12);
-    EXPECT_NEAR(HostState(c), 0.8, 1e-12);
+    EXPECT_THAT((Numbers{c->state, HostState(c)}), Are({0.8, 0.8}));
 }
 
 TEST_F(AnimTest, TargetsStopTheControllerTheShortWayRound) {
@@ -162,11 +155,10 @@ TEST_F(AnimTest, TargetsStopTheControllerTheShortWayRound) {
     Step(door, 0.5);
     EXPECT_DOUBLE_EQ(door->state, 0.5);
     Step(door, 0.5);
-    EXPECT_DOUBLE_EQ(door->state, 0.6);
+    EXPECT_THAT((Numbers{door->state, door->target}), Are({0.6, -1}));
     EXPECT_EQ(door->direction, 0);
-    EXPECT_DOUBLE_EQ(door->target, -1.0);
-    EXPECT_EQ(p.hooks.back(), "moved DoorCtl");
-    EXPECT_EQ(p.hooks[p.hooks.size() - 2], "target DoorCtl");
+    EXPECT_EQ(std::vector(p.hooks.end() - 2, p.hooks.end()),
+              (std::vector<std::string>{"target DoorCtl", "moved DoorCtl"}));
     // A target equal to the state leaves the direction alone.
     door->direction = -1;
     p.SetControllerTarget(door, 0.6, false);
@@ -191,15 +183,13 @@ TEST_F(AnimTest, ImmediateDrivingTakesTheControllerOutOfTheUpdater) {
     ANIM_CTRL_REC *door = Ctl("DoorCtl");
     p.SimStep = 0.1;
     p.SetControllerDirection(door, 1, true);
-    EXPECT_DOUBLE_EQ(door->state, 0.3);
-    EXPECT_DOUBLE_EQ(HostState(door), 0.3);
+    EXPECT_THAT((Numbers{door->state, HostState(door)}), Are({0.3, 0.3}));
     EXPECT_TRUE(door->externalDrive);
 
     // The updater passes it over; only further calls move it.
     p.H_ANIM();
     EXPECT_DOUBLE_EQ(door->state, 0.3);
     p.SetControllerTarget(door, 0.0, true);
-    EXPECT_DOUBLE_EQ(door->state, 0.25);
-    EXPECT_DOUBLE_EQ(HostState(door), 0.25);
+    EXPECT_THAT((Numbers{door->state, HostState(door)}), Are({0.25, 0.25}));
     p.SetControllerDirection(nullptr, 1, true);
 }

@@ -1,6 +1,7 @@
 // The records that only describe: cameras, aero data, children, separations,
 // wrecks, sounds and floodlight sets, with beacons and particle streams, whose
 // parameter blocks the host receives.
+#include "numbers.h"
 #include "resource_fixture.h"
 
 namespace {
@@ -20,12 +21,6 @@ constexpr const char *kDescriptiveHeaders =
     "BEACON_REC = Beacon Beacons SName VPos VColor IType DSizeB DFalloff DPeriod DDuration DTofs\n"
     "TEXTURE_REC = Texture Textures SName SType SFile\n"
     "PARTICLE_REC = Particle Particles SName PPSS STex\n";
-
-void ExpectVector(const VECTOR3 &v, double x, double y, double z) {
-    EXPECT_DOUBLE_EQ(v.x, x);
-    EXPECT_DOUBLE_EQ(v.y, y);
-    EXPECT_DOUBLE_EQ(v.z, z);
-}
 
 } // namespace
 
@@ -51,20 +46,15 @@ TEST_F(ResourceTest, DescriptiveRecordsTakeTheirKeysAndDefaultsForShortLines) {
     const CAMERA_REC *top = p.CameraTable.Find("top");
     ASSERT_NE(top, nullptr);
     EXPECT_EQ(top->name, "top");
-    ExpectVector(top->pos, 0, 1, 2);
-    ExpectVector(top->dir, 0, 1, 0);
-    EXPECT_DOUBLE_EQ(top->tilt, 0.1);
+    EXPECT_THAT(Of(top->pos, top->dir), Are({0, 1, 2, 0, 1, 0}));
+    EXPECT_THAT((Numbers{top->tilt, top->limRotLeft, top->limRotRight, top->limRotUp, top->limRotDown}),
+                Are({0.1, 0.2, 0.3, 0.4, 0.5}));
     EXPECT_FALSE(top->disabled);
-    EXPECT_DOUBLE_EQ(top->limRotLeft, 0.2);
-    EXPECT_DOUBLE_EQ(top->limRotRight, 0.3);
-    EXPECT_DOUBLE_EQ(top->limRotUp, 0.4);
-    EXPECT_DOUBLE_EQ(top->limRotDown, 0.5);
     EXPECT_TRUE(p.CameraTable.Find("off")->disabled);
     EXPECT_TRUE(p.CameraTable.Find("one")->disabled);
     const CAMERA_REC *bare = p.CameraTable.Find("bare");
-    ExpectVector(bare->dir, 0, 0, 0);
+    EXPECT_THAT((Numbers{bare->dir.z, bare->limRotDown}), Are({0, 0}));
     EXPECT_FALSE(bare->disabled);
-    EXPECT_DOUBLE_EQ(bare->limRotDown, 0.0);
     // The configuration has cameras, so the default one isn't made.
     EXPECT_EQ(p.CameraTable.Find("fwd"), nullptr);
     EXPECT_EQ(p.CurrentCamera, "top");
@@ -72,41 +62,26 @@ TEST_F(ResourceTest, DescriptiveRecordsTakeTheirKeysAndDefaultsForShortLines) {
     // A drag maximum below the minimum gives a negative span, unchecked.
     const AERO_REC *aero = p.AeroTable.Find("aDefault");
     ASSERT_NE(aero, nullptr);
-    ExpectVector(aero->centerOfPressure, 0, 0, -1);
-    EXPECT_DOUBLE_EQ(aero->wingChord, 3.0);
-    EXPECT_DOUBLE_EQ(aero->wingS, 8.0);
-    EXPECT_DOUBLE_EQ(aero->wingAspect, 0.5);
-    EXPECT_DOUBLE_EQ(aero->dcMomentMax, 0.25);
-    EXPECT_DOUBLE_EQ(aero->cdragSpan, 0.4 - 1.6);
+    EXPECT_THAT(Of(aero->centerOfPressure), Are({0, 0, -1}));
+    EXPECT_THAT((Numbers{aero->wingChord, aero->wingS, aero->wingAspect, aero->dcMomentMax, aero->cdragSpan}),
+                Are({3, 8, 0.5, 0.25, 0.4 - 1.6}));
 
     const CHILD_REC *cargo = p.ChildTable.Find("Cargo");
     ASSERT_NE(cargo, nullptr);
-    ExpectVector(cargo->pos, 0, 0, 2);
-    ExpectVector(cargo->dir, 0, 0, 1);
-    ExpectVector(cargo->rot, 0, 1, 0);
+    EXPECT_THAT(Of(cargo->pos, cargo->dir, cargo->rot), Are({0, 0, 2, 0, 0, 1, 0, 1, 0}));
+    EXPECT_THAT(Of(cargo->ConfigPos, cargo->ConfigDir, cargo->ConfigRot), Are({0, 0, 2, 0, 0, 1, 0, 1, 0}));
     EXPECT_EQ(cargo->scnVar, "CARGO");
-    ExpectVector(cargo->ConfigPos, 0, 0, 2);
-    ExpectVector(cargo->ConfigDir, 0, 0, 1);
-    ExpectVector(cargo->ConfigRot, 0, 1, 0);
     const CHILD_REC *loose = p.ChildTable.Find("Loose");
-    ExpectVector(loose->ConfigPos, 0, 1, 0);
-    ExpectVector(loose->rot, 0, 0, 0);
+    EXPECT_THAT(Of(loose->ConfigPos, loose->rot), Are({0, 1, 0, 0, 0, 0}));
     EXPECT_EQ(loose->scnVar, "");
 
     const SEPARATION_REC *sep = p.SeparationTable.Find("sepCargo");
     ASSERT_NE(sep, nullptr);
-    EXPECT_DOUBLE_EQ(sep->vFrom, 0.5);
-    EXPECT_DOUBLE_EQ(sep->vSpan, 0.1);
-    ExpectVector(sep->f1From, -1, -2, -3);
-    ExpectVector(sep->f1Span, 2, 4, 6);
-    ExpectVector(sep->f1Pos, 0, 0, 1);
-    ExpectVector(sep->f2From, 7, 8, 9);
-    ExpectVector(sep->f2Span, 1, 1, 1);
-    ExpectVector(sep->f2Pos, 0, 0, -1);
+    EXPECT_THAT((Numbers{sep->vFrom, sep->vSpan}), Are({0.5, 0.1}));
+    EXPECT_THAT(Of(sep->f1From, sep->f1Span, sep->f1Pos, sep->f2From, sep->f2Span, sep->f2Pos),
+                Are({-1, -2, -3, 2, 4, 6, 0, 0, 1, 7, 8, 9, 1, 1, 1, 0, 0, -1}));
     const SEPARATION_REC *slow = p.SeparationTable.Find("sepSlow");
-    EXPECT_DOUBLE_EQ(slow->vFrom, 0.2);
-    EXPECT_DOUBLE_EQ(slow->vSpan, 0.0);
-    ExpectVector(slow->f2Pos, 0, 0, 0);
+    EXPECT_THAT((Numbers{slow->vFrom, slow->vSpan, slow->f2Pos.z}), Are({0.2, 0, 0}));
 
     // Two wreck lines of one name are one record, in its first place, with
     // the last file.
@@ -123,19 +98,12 @@ TEST_F(ResourceTest, DescriptiveRecordsTakeTheirKeysAndDefaultsForShortLines) {
 
     const SPOTLIGHTSET_REC *mast = p.SpotlightSetTable.Find("Mast");
     ASSERT_NE(mast, nullptr);
-    ExpectVector(mast->pos, 1, 2, 3);
+    EXPECT_THAT(Of(mast->pos), Are({1, 2, 3}));
     EXPECT_EQ(mast->cols, 4);
     EXPECT_EQ(mast->rows, 2);
-    EXPECT_DOUBLE_EQ(mast->len, 50.0);
-    EXPECT_DOUBLE_EQ(mast->wid, 3.0);
-    EXPECT_DOUBLE_EQ(mast->faceWidth, 0.5);
-    EXPECT_DOUBLE_EQ(mast->azm, 10.0);
-    EXPECT_DOUBLE_EQ(mast->elev, -5.0);
-    EXPECT_DOUBLE_EQ(mast->dAzm, 2.5);
-    EXPECT_DOUBLE_EQ(mast->dElev, 1.5);
-    EXPECT_DOUBLE_EQ(mast->dHorStep, 0.4);
-    EXPECT_DOUBLE_EQ(mast->dVertStep, 0.3);
-    EXPECT_DOUBLE_EQ(mast->lightAzmAngle, 45.0);
+    EXPECT_THAT((Numbers{mast->len, mast->wid, mast->faceWidth, mast->azm, mast->elev, mast->dAzm,
+                         mast->dElev, mast->dHorStep, mast->dVertStep, mast->lightAzmAngle}),
+                Are({50, 3, 0.5, 10, -5, 2.5, 1.5, 0.4, 0.3, 45}));
 }
 
 TEST_F(ResourceTest, BeaconsReachTheHostAsPointersIntoTheirRecords) {
@@ -160,19 +128,15 @@ TEST_F(ResourceTest, BeaconsReachTheHostAsPointersIntoTheirRecords) {
 
     const BEACONLIGHTSPEC &strobe = *v.beacons[0];
     EXPECT_EQ(strobe.shape, 2u);
-    ExpectVector(*strobe.pos, 0, 2, 0);
-    ExpectVector(*strobe.col, 1, 1, 1);
-    EXPECT_DOUBLE_EQ(strobe.size, 0.5);
-    EXPECT_DOUBLE_EQ(strobe.falloff, 0.4);
-    EXPECT_DOUBLE_EQ(strobe.period, 2.0);
-    EXPECT_DOUBLE_EQ(strobe.duration, 0.1);
-    EXPECT_DOUBLE_EQ(strobe.tofs, 0.3);
+    EXPECT_THAT(Of(*strobe.pos, *strobe.col), Are({0, 2, 0, 1, 1, 1}));
+    EXPECT_THAT((Numbers{strobe.size, strobe.falloff, strobe.period, strobe.duration, strobe.tofs}),
+                Are({0.5, 0.4, 2, 0.1, 0.3}));
     EXPECT_EQ(v.beacons[1]->shape, 4u);
-    EXPECT_DOUBLE_EQ(v.beacons[1]->size, 0.0);
+    EXPECT_EQ(v.beacons[1]->size, 0.0);
     EXPECT_EQ(v.beacons[2]->shape, 0u);
-    ExpectVector(*v.beacons[2]->col, 0, 0, 0);
+    EXPECT_THAT(Of(*v.beacons[2]->col), Are({0, 0, 0}));
     EXPECT_EQ(v.beacons[3]->shape, 1u);
-    ExpectVector(*v.beacons[3]->pos, 9, 9, 9);
+    EXPECT_THAT(Of(*v.beacons[3]->pos), Are({9, 9, 9}));
 
     // A record parsed again in place keeps the addresses the host holds, and
     // the host sees its new values.
@@ -182,7 +146,7 @@ TEST_F(ResourceTest, BeaconsReachTheHostAsPointersIntoTheirRecords) {
     p.BeaconTable.CreateRecord("Strobe");
     EXPECT_EQ(p.BeaconTable.Find("Strobe"), strobeRecord);
     EXPECT_EQ(v.beacons[0], &strobeRecord->spec);
-    ExpectVector(*v.beacons[0]->pos, 0, 3, 0);
+    EXPECT_THAT(Of(*v.beacons[0]->pos), Are({0, 3, 0}));
     EXPECT_FALSE(v.beacons[0]->active);
 }
 
@@ -210,17 +174,15 @@ TEST_F(ResourceTest, ParticleParametersTakeTheSurfaceOfTheirTexture) {
     EXPECT_EQ(smoke->tex, "txSmoke");
     EXPECT_EQ(smoke->spec.tex, texture->surface);
     EXPECT_EQ(smoke->spec.flags, 1u);
-    EXPECT_DOUBLE_EQ(smoke->spec.srcsize, 2.0);
-    EXPECT_DOUBLE_EQ(smoke->spec.atmslowdown, 8.0);
+    EXPECT_THAT((Numbers{smoke->spec.srcsize, smoke->spec.atmslowdown, smoke->spec.amax}), Are({2, 8, 0.9}));
     EXPECT_EQ(smoke->spec.ltype, PARTICLESTREAMSPEC::DIFFUSE);
     EXPECT_EQ(smoke->spec.atmsmap, PARTICLESTREAMSPEC::ATM_PLIN);
-    EXPECT_DOUBLE_EQ(smoke->spec.amax, 0.9);
 
     for (const char *name : {"Plain", "Bare", "Lost"}) {
         const PARTICLE_REC *other = p.ParticleTable.Find(name);
         ASSERT_NE(other, nullptr) << name;
         EXPECT_EQ(other->spec.tex, nullptr) << name;
-        EXPECT_DOUBLE_EQ(other->spec.srcrate, 3.0) << name;
+        EXPECT_EQ(other->spec.srcrate, 3.0) << name;
     }
     EXPECT_EQ(p.ParticleTable.Find("Plain")->tex, "");
 

@@ -1,5 +1,6 @@
 // Record lines compiled against a header read from the configuration: every
 // field letter, lines too short or too long, and the words with a meaning.
+#include "numbers.h"
 #include "resource_fixture.h"
 
 using ::testing::ElementsAre;
@@ -29,48 +30,43 @@ TEST_F(ResourceTest, FieldsAreCompiledByTheirLettersWithDefaultsForWhatALineDoes
 
     EXPECT_EQ(t.GetString("full", "Text"), "word");
     EXPECT_EQ(t.GetInt("full", "Flag"), 1);
-    EXPECT_DOUBLE_EQ(t.GetDouble("full", "Value"), 2.5);
-    EXPECT_DOUBLE_EQ(t.GetVector("full", "Vec").z, 3.0);
     // The unknown letter takes one token and repeats the vector's pool index.
-    EXPECT_DOUBLE_EQ(t.GetVector("full", "Skip").y, 2.0);
-    EXPECT_DOUBLE_EQ(t.GetDouble("full", "After"), 7.5);
+    EXPECT_THAT((Numbers{t.GetDouble("full", "Value"), t.GetVector("full", "Vec").z,
+                         t.GetVector("full", "Skip").y, t.GetDouble("full", "After")}),
+                Are({2.5, 3, 2, 7.5}));
     PARTICLESTREAMSPEC s = t.GetParticleSpec("full", "Spec");
     EXPECT_EQ(s.flags, 1u);
-    EXPECT_DOUBLE_EQ(s.srcsize, 3.5);
-    EXPECT_DOUBLE_EQ(s.atmslowdown, 1.0);
+    EXPECT_THAT((Numbers{s.srcsize, s.atmslowdown, s.amax}), Are({3.5, 1, 0.9}));
     EXPECT_EQ(s.ltype, PARTICLESTREAMSPEC::DIFFUSE);
     EXPECT_EQ(s.levelmap, PARTICLESTREAMSPEC::LVL_SQRT);
     EXPECT_EQ(s.atmsmap, PARTICLESTREAMSPEC::ATM_PLIN);
-    EXPECT_DOUBLE_EQ(s.amax, 0.9);
     EXPECT_EQ(s.tex, nullptr);
 
     EXPECT_EQ(t.GetString("short", "Text"), "");
     EXPECT_EQ(t.GetInt("short", "Flag"), 0);
-    EXPECT_DOUBLE_EQ(t.GetVector("short", "Vec").x, 0.0);
+    EXPECT_EQ(t.GetVector("short", "Vec").x, 0.0);
     EXPECT_EQ(t.GetString("short", "NoSuchKey"), "");
 
     EXPECT_EQ(t.GetString("words", "Text"), "");
     EXPECT_EQ(t.GetInt("words", "Flag"), 2);
-    EXPECT_DOUBLE_EQ(t.GetDouble("words", "Value"), 1000.0);
+    EXPECT_EQ(t.GetDouble("words", "Value"), 1000.0);
     EXPECT_EQ(t.GetInt("digits", "Flag"), 12);
-    EXPECT_DOUBLE_EQ(t.GetDouble("digits", "Value"), 0.0);
+    EXPECT_EQ(t.GetDouble("digits", "Value"), 0.0);
 
     // A quoted word in mid-line takes two token positions.
     EXPECT_EQ(t.GetString("quoted", "Text"), "a b");
     EXPECT_EQ(t.GetInt("quoted", "Flag"), 0);
-    EXPECT_DOUBLE_EQ(t.GetDouble("quoted", "Value"), 3.0);
+    EXPECT_EQ(t.GetDouble("quoted", "Value"), 3.0);
 
     // A stream cut short keeps zeroed parameters for what is missing.
     PARTICLESTREAMSPEC cut = t.GetParticleSpec("tail", "Spec");
-    EXPECT_DOUBLE_EQ(cut.srcsize, 1.0);
-    EXPECT_DOUBLE_EQ(cut.srcrate, 2.0);
-    EXPECT_DOUBLE_EQ(cut.v0, 0.0);
+    EXPECT_THAT((Numbers{cut.srcsize, cut.srcrate, cut.v0}), Are({1, 2, 0}));
     EXPECT_EQ(cut.ltype, PARTICLESTREAMSPEC::EMISSIVE);
 
     PARTICLESTREAMSPEC odd = t.GetParticleSpec("odd", "Spec");
     EXPECT_EQ(odd.levelmap, PARTICLESTREAMSPEC::LVL_PSQRT);
     EXPECT_EQ(odd.atmsmap, PARTICLESTREAMSPEC::ATM_PLOG);
-    EXPECT_DOUBLE_EQ(odd.amax, 4.0);
+    EXPECT_EQ(odd.amax, 4.0);
     EXPECT_EQ(t.tokensByName.at("odd").back(), "more");
 }
 

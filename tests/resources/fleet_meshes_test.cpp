@@ -6,57 +6,50 @@
 #include "fleet_fixture.h"
 #include "visual/visual.h"
 
-namespace {
+using FleetMeshes = FleetTest;
 
-class FleetMeshes : public FleetTest {
-  protected:
-    // Each mesh record stands in the host at its index, with its file, offset
-    // and mode, and with a device mesh in the visual.
-    void ExpectMeshes(HULLKIT &k, const std::vector<std::string> &files) {
-        ASSERT_EQ(vessel->meshes.size(), files.size());
-        ASSERT_EQ(static_cast<size_t>(k.MeshTable.Count()), files.size());
+// Each mesh record stands in the host at its index, with its file, offset and
+// mode, and with a device mesh in the visual.
+TEST_F(FleetMeshes, EachClassAndVariantShowsItsOwnMeshes) {
+    const struct {
+        const char *className, *subtype;
+        std::vector<std::string> files;
+    } cases[] = {
+        {"Fleet\\Korvan",
+         "",
+         {"Fleet\\Korvan", "Fleet\\KorvanFairing", "Fleet\\KorvanSOZL", "Fleet\\KorvanSOZR"}},
+        {"Fleet\\Korvan",
+         "TwoPayloads",
+         {"Fleet\\Korvan", "Fleet\\KorvanFairing", "Fleet\\KorvanSOZL", "Fleet\\KorvanSOZR",
+          "Fleet\\KorvanDispenser"}},
+        {"Fleet\\Generic", "", {"Fleet\\Debris"}},
+        {"Fleet\\Generic", "SOZL", {"Fleet\\KorvanSOZL"}},
+        {"Fleet\\Generic", "SOZR", {"Fleet\\KorvanSOZR"}},
+        {"Fleet\\Generic", "FairingKMidK", {"Fleet\\KorvanFairing"}},
+        {"Fleet\\Generic", "Payload", {"Fleet\\KorvanPayload"}},
+    };
+    int n = 0;
+    for (const auto &c : cases) {
+        SCOPED_TRACE(std::string(c.className) + " " + c.subtype);
+        HULLKIT &k = Load(("V-" + std::to_string(n++)).c_str(), c.className, c.subtype);
+        ASSERT_EQ(vessel->meshes.size(), c.files.size());
+        ASSERT_EQ(static_cast<size_t>(k.MeshTable.Count()), c.files.size());
         ASSERT_NE(k.visual, nullptr);
         for (int32_t i = 0; i < k.MeshTable.Count(); ++i) {
             const MESH_REC *rec = k.MeshTable.At(i);
             const hullhost::MeshSlot &slot = vessel->meshes[rec->index];
             EXPECT_EQ(rec->index, static_cast<uint32_t>(i));
-            EXPECT_EQ(slot.file, files[static_cast<size_t>(i)]);
+            EXPECT_EQ(slot.file, c.files[static_cast<size_t>(i)]);
             ASSERT_NE(slot.templ, nullptr) << slot.file;
             EXPECT_FALSE(slot.templ->groups.empty()) << slot.file;
-            EXPECT_DOUBLE_EQ(slot.offset.x, rec->pos.x);
-            EXPECT_DOUBLE_EQ(slot.offset.z, rec->pos.z);
+            EXPECT_EQ(slot.offset.x, rec->pos.x);
+            EXPECT_EQ(slot.offset.z, rec->pos.z);
             EXPECT_EQ(slot.visibility, MESHVIS_ALWAYS);
             EXPECT_NE(k.GetDevMesh(k.visual, rec->index), nullptr);
         }
     }
-};
-
-} // namespace
-
-TEST_F(FleetMeshes, KorvanShowsItsStageFairingAndUllageBlocks) {
-    HULLKIT &k = Load("K-1", "Fleet\\Korvan");
-    ExpectMeshes(k, {"Fleet\\Korvan", "Fleet\\KorvanFairing", "Fleet\\KorvanSOZL", "Fleet\\KorvanSOZR"});
-    EXPECT_DOUBLE_EQ(vessel->meshes[1].offset.z, -1.75);
-    EXPECT_DOUBLE_EQ(vessel->meshes[2].offset.x, -1.42);
-}
-
-TEST_F(FleetMeshes, TheTwoPayloadVariantAddsItsDispenserLast) {
-    HULLKIT &k = Load("K-1", "Fleet\\Korvan", "TwoPayloads");
-    ExpectMeshes(k, {"Fleet\\Korvan", "Fleet\\KorvanFairing", "Fleet\\KorvanSOZL", "Fleet\\KorvanSOZR",
-                     "Fleet\\KorvanDispenser"});
-    EXPECT_DOUBLE_EQ(vessel->meshes[4].offset.z, 1.55);
-}
-
-TEST_F(FleetMeshes, EachGenericVariantShowsItsOwnBody) {
-    const std::pair<const char *, const char *> variants[] = {{"", "Fleet\\Debris"},
-                                                              {"SOZL", "Fleet\\KorvanSOZL"},
-                                                              {"SOZR", "Fleet\\KorvanSOZR"},
-                                                              {"FairingKMidK", "Fleet\\KorvanFairing"},
-                                                              {"Payload", "Fleet\\KorvanPayload"}};
-    int n = 0;
-    for (const auto &[subtype, file] : variants) {
-        SCOPED_TRACE(subtype);
-        HULLKIT &g = Load(("G-" + std::to_string(n++)).c_str(), "Fleet\\Generic", subtype);
-        ExpectMeshes(g, {file});
-    }
+    // The fairing, an ullage block and the dispenser at their places.
+    EXPECT_EQ(world_->FindVessel("V-1")->meshes[1].offset.z, -1.75);
+    EXPECT_EQ(world_->FindVessel("V-1")->meshes[2].offset.x, -1.42);
+    EXPECT_EQ(world_->FindVessel("V-1")->meshes[4].offset.z, 1.55);
 }

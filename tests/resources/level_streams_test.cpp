@@ -1,5 +1,6 @@
 // The contrail, hot wake and dust streams that the vessel drives through its
 // level members, and the configured shift of the centre of gravity.
+#include "numbers.h"
 #include "resource_fixture.h"
 
 namespace {
@@ -30,35 +31,17 @@ TEST_F(ResourceTest, StreamsFollowTheirLevelMembers) {
     const hullhost::ParticleStream &heat = *v.streams[1];
     const hullhost::ParticleStream &dust = *v.streams[2];
 
-    // 50 m behind the main group's first thruster, whatever comes before it.
+    // 50 m behind the main group's first thruster, whatever comes before it;
+    // a position given in part keeps the rest of the default.
     EXPECT_EQ(contrail.thruster, nullptr);
-    EXPECT_DOUBLE_EQ(contrail.pos.z, -52.0);
-    EXPECT_DOUBLE_EQ(contrail.dir.z, -1.0);
+    EXPECT_THAT(Of(contrail.pos, contrail.dir, heat.pos, heat.dir, dust.pos, dust.dir),
+                Are({0, 0, -52, 0, 0, -1, 1, 2, -10, 0, 0, -1, 0, 0, 0, 0, 1, 0}));
     EXPECT_EQ(contrail.level, &p.ContrailLevel);
-    EXPECT_DOUBLE_EQ(contrail.spec.srcsize, 4.0);
-    EXPECT_EQ(contrail.spec.levelmap, PARTICLESTREAMSPEC::LVL_PSQRT);
-
-    // A position given in part keeps the rest of the default.
-    EXPECT_DOUBLE_EQ(heat.pos.x, 1.0);
-    EXPECT_DOUBLE_EQ(heat.pos.y, 2.0);
-    EXPECT_DOUBLE_EQ(heat.pos.z, -10.0);
-    EXPECT_DOUBLE_EQ(heat.dir.z, -1.0);
     EXPECT_EQ(heat.level, &p.HeatContrailLevel);
-    EXPECT_DOUBLE_EQ(heat.spec.srcsize, 3.0);
-
-    EXPECT_DOUBLE_EQ(dust.pos.z, 0.0);
-    EXPECT_DOUBLE_EQ(dust.dir.y, 1.0);
     EXPECT_EQ(dust.level, &p.DustLevel);
-    EXPECT_DOUBLE_EQ(dust.spec.srcsize, 2.0);
-
-    // The host sees what the vessel writes.
-    EXPECT_DOUBLE_EQ(*dust.level, 0.0);
-    p.DustLevel = 1.0;
-    p.ContrailLevel = 0.5;
-    EXPECT_DOUBLE_EQ(*dust.level, 1.0);
-    EXPECT_DOUBLE_EQ(*contrail.level, 0.5);
-
-    EXPECT_DOUBLE_EQ(v.cgShift.z, 0.5);
+    EXPECT_THAT((Numbers{contrail.spec.srcsize, heat.spec.srcsize, dust.spec.srcsize}), Are({4, 3, 2}));
+    EXPECT_EQ(contrail.spec.levelmap, PARTICLESTREAMSPEC::LVL_PSQRT);
+    EXPECT_EQ(v.cgShift.z, 0.5);
 }
 
 TEST_F(ResourceTest, StreamsWithoutTheirRecordsOrAMainGroupAreLeftOut) {

@@ -147,12 +147,8 @@ TEST_F(PresentationTest, HudMarkStandsBelowTheOverriddenModeButton) {
     const hullhost::HudShape &mark = pad.Shapes()[0];
     EXPECT_EQ(mark.kind, hullhost::HudShape::RECTANGLE);
     // a = 373, b = 36, y = 764; mode 3 stands at a + 2b + 4.
-    EXPECT_EQ(mark.x0, 449);
-    EXPECT_EQ(mark.y0, 764);
-    EXPECT_EQ(mark.x1, 485);
-    EXPECT_EQ(mark.y1, 800);
+    EXPECT_EQ((std::vector{mark.x0, mark.y0, mark.x1, mark.y1, mark.width}), (std::vector{449, 764, 485, 800, 4}));
     EXPECT_EQ(mark.colour, 0xffu);
-    EXPECT_EQ(mark.width, 4);
 
     p.NavOverrideMode = 2;
     hullhost::HudSketchpad second;

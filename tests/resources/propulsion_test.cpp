@@ -1,4 +1,5 @@
 // Tanks, thrusters and thruster groups as the host receives them.
+#include "numbers.h"
 #include "resource_fixture.h"
 
 using ::testing::ElementsAre;
@@ -34,23 +35,15 @@ TEST_F(ResourceTest, TablesAreCreatedInTheirOwnOrderWhateverTheFileOrder) {
     hullhost::Vessel &v = Host();
 
     ASSERT_EQ(v.propellants.size(), 3u);
-    EXPECT_DOUBLE_EQ(v.propellants[0]->maxMass, 5000.0);
-    EXPECT_DOUBLE_EQ(v.propellants[0]->mass, 5000.0);
-    EXPECT_DOUBLE_EQ(v.propellants[2]->maxMass, 1.0);
+    EXPECT_THAT((Numbers{v.propellants[0]->maxMass, v.propellants[0]->mass, v.propellants[2]->maxMass}),
+                Are({5000, 5000, 1}));
 
     ASSERT_GE(v.thrusters.size(), 4u);
-    const hullhost::Thruster &t0 = *v.thrusters[0];
-    EXPECT_DOUBLE_EQ(t0.pos.z, -1.0);
-    EXPECT_DOUBLE_EQ(t0.dir.z, 1.0);
-    EXPECT_DOUBLE_EQ(t0.maxThrust0, 20000.0);
-    EXPECT_DOUBLE_EQ(t0.isp0, 3250.0);
-    EXPECT_DOUBLE_EQ(t0.ispRef, 1900.0);
-    EXPECT_DOUBLE_EQ(t0.pRef, 101400.0);
+    const hullhost::Thruster &t0 = *v.thrusters[0], &t1 = *v.thrusters[1];
+    EXPECT_THAT(Of(t0.pos, t0.dir), Are({0, 0, -1, 0, 0, 1}));
+    EXPECT_THAT((Numbers{t0.maxThrust0, t0.isp0, t0.ispRef, t0.pRef}), Are({20000, 3250, 1900, 101400}));
+    EXPECT_THAT((Numbers{t1.pos.x, t1.maxThrust0, t1.ispRef}), Are({9, 75, 0}));
     EXPECT_EQ(t0.propellant, v.propellants[0].get());
-    const hullhost::Thruster &t1 = *v.thrusters[1];
-    EXPECT_DOUBLE_EQ(t1.pos.x, 9.0);
-    EXPECT_DOUBLE_EQ(t1.maxThrust0, 75.0);
-    EXPECT_DOUBLE_EQ(t1.ispRef, 0.0);
     EXPECT_EQ(t1.propellant, v.propellants[0].get());
     EXPECT_EQ(v.thrusters[2]->propellant, v.propellants[1].get());
     EXPECT_EQ(v.thrusters[3]->propellant, nullptr);
@@ -64,7 +57,7 @@ TEST_F(ResourceTest, TablesAreCreatedInTheirOwnOrderWhateverTheFileOrder) {
     EXPECT_FALSE(v.streams[0]->ownPos);
     EXPECT_EQ(v.streams[1]->thruster, v.thrusters[2].get());
     EXPECT_TRUE(v.streams[1]->ownPos);
-    EXPECT_DOUBLE_EQ(v.streams[1]->pos.z, 1.0);
+    EXPECT_EQ(v.streams[1]->pos.z, 1.0);
     EXPECT_EQ(p.ThrusterTable.Find("T2")->stream, v.streams[1]->Handle());
     EXPECT_EQ(p.ThrusterTable.Find("T3")->stream, nullptr);
     EXPECT_TRUE(v.exhausts.empty());

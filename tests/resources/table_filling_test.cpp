@@ -1,5 +1,6 @@
 // Records from three levels of files, from the scenario, and the records that
 // every vessel gets.
+#include "numbers.h"
 #include "resource_fixture.h"
 
 using ::testing::ElementsAre;
@@ -62,10 +63,7 @@ TEST_F(ResourceTest, DefaultRecordsComeFirstAndScenarioLinesCanOverrideThem) {
     EXPECT_EQ(p.MainTank, nullptr);
 
     const THRUSTER_REC *shine = p.ThrusterTable.Find("ShineMinus");
-    EXPECT_DOUBLE_EQ(shine->pos.y, 2.0);
-    EXPECT_DOUBLE_EQ(shine->dir.z, -1.0);
-    EXPECT_DOUBLE_EQ(shine->thrust, 2000.0);
-    EXPECT_DOUBLE_EQ(shine->ispMax, 10000000.0);
+    EXPECT_THAT((Numbers{shine->pos.y, shine->dir.z, shine->thrust, shine->ispMax}), Are({2, -1, 2000, 1e7}));
     EXPECT_EQ(shine->tank, "Virtual");
     EXPECT_EQ(Host().thrusters[0]->propellant, Host().propellants[0].get());
     ASSERT_EQ(Host().groups.size(), 2u);
