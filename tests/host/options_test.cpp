@@ -1,6 +1,8 @@
 // hullsim's command line.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "sim/frame_clock.h"
 #include "sim/options.h"
 #include "sim/usage_error.h"
@@ -20,32 +22,38 @@ std::string OptionError(const std::vector<std::string> &args) {
     return "(no error)";
 }
 
+// The options as one record, to compare whole.
+auto Fields(const hullhost::sim::RunOptions &r) {
+    return std::tuple(r.scenario, r.root, r.seconds, r.dt, r.accel, r.seed, r.savePath, r.statePath,
+                      r.keysPath, r.logPath, r.telemetryPath, r.plotPath, r.tracks, r.telemetryInterval);
+}
+
 TEST(OptionsTest, DefaultsAndEveryOption) {
     Command plain = ParseCommandLine({"run", "demo"}, "/default/root");
     EXPECT_FALSE(plain.help);
-    EXPECT_EQ(plain.run.scenario, "demo");
-    EXPECT_EQ(plain.run.root, "/default/root");
-    EXPECT_EQ(plain.run.seconds, 0.0);
-    EXPECT_EQ(plain.run.dt, 0.02);
-    EXPECT_EQ(plain.run.accel, 1.0);
-    EXPECT_FALSE(plain.run.seed.has_value());
-    EXPECT_TRUE(plain.run.savePath.empty());
-    EXPECT_TRUE(plain.run.logPath.empty());
+    EXPECT_EQ(Fields(plain.run),
+              std::tuple("demo", "/default/root", 0.0, 0.02, 1.0, std::optional<unsigned>(), "", "", "", "",
+                         "", "", std::vector<std::string>{}, 1.0));
 
-    Command all = ParseCommandLine({"run",     "--root", "r",      "--for",      "12.5",   "--dt",  "0.1",
-                                    "--accel", "10",     "--seed", "4294967295", "--save", "s.scn", "--state",
-                                    "s.json",  "--keys", "k.txt",  "--log",      "l.log",  "x.scn"},
-                                   "/default/root");
-    EXPECT_EQ(all.run.scenario, "x.scn");
-    EXPECT_EQ(all.run.root, "r");
-    EXPECT_EQ(all.run.seconds, 12.5);
-    EXPECT_EQ(all.run.dt, 0.1);
-    EXPECT_EQ(all.run.accel, 10.0);
-    EXPECT_EQ(all.run.seed, 4294967295u);
-    EXPECT_EQ(all.run.savePath, "s.scn");
-    EXPECT_EQ(all.run.statePath, "s.json");
-    EXPECT_EQ(all.run.keysPath, "k.txt");
-    EXPECT_EQ(all.run.logPath, "l.log");
+    // --track takes one name each time, so the scenario after it stays the
+    // scenario; a name given twice is recorded once.
+    Command all =
+        ParseCommandLine({"run",   "--root",      "r",      "--for",   "12.5",       "--dt",
+                          "0.1",   "--accel",     "10",     "--seed",  "4294967295", "--save",
+                          "s.scn", "--state",     "s.json", "--keys",  "k.txt",      "--log",
+                          "l.log", "--telemetry", "t.csv",  "--plot",  "p.svg",      "--track",
+                          "B",     "--track",     "A",      "--track", "B",          "--telemetry-interval",
+                          "0.5",   "--track",     "C",      "x.scn"},
+                         "/default/root");
+    EXPECT_EQ(Fields(all.run), std::tuple("x.scn", "r", 12.5, 0.1, 10.0, std::optional<unsigned>(4294967295u),
+                                          "s.scn", "s.json", "k.txt", "l.log", "t.csv", "p.svg",
+                                          std::vector<std::string>{"B", "A", "C"}, 0.5));
+    // Few frames bound the samples too: one a frame at most.
+    EXPECT_EQ(ParseCommandLine({"run", "x", "--telemetry", "t.csv", "--for", "1e7", "--accel", "1e4",
+                                "--telemetry-interval", "0.1"},
+                               "/root")
+                  .run.telemetryInterval,
+              0.1);
 }
 
 TEST(OptionsTest, HelpListsTheRunOptions) {
@@ -60,21 +68,33 @@ TEST(OptionsTest, HelpListsTheRunOptions) {
 }
 
 TEST(OptionsTest, BadCommandLinesAreUsageErrors) {
-    EXPECT_EQ(OptionError({}),
-              "no command given; usage: hullsim run SCENARIO [options] (see hullsim --help)");
-    EXPECT_EQ(OptionError({"walk", "x"}),
-              "unknown command 'walk'; usage: hullsim run SCENARIO [options] (see hullsim --help)");
-    EXPECT_EQ(OptionError({"run", "x", "--dt", "0"}), "--dt needs a number above 0, not '0'");
-    EXPECT_EQ(OptionError({"run", "x", "--dt", "fast"}), "--dt needs a number above 0, not 'fast'");
-    EXPECT_EQ(OptionError({"run", "x", "--for", "-1"}), "--for needs a number of 0 or more, not '-1'");
-    EXPECT_EQ(OptionError({"run", "x", "--for", "inf"}), "--for needs a number of 0 or more, not 'inf'");
-    EXPECT_EQ(OptionError({"run", "x", "--accel", "nan"}), "--accel needs a number above 0, not 'nan'");
-    EXPECT_EQ(OptionError({"run", "x", "--seed", "-3"}),
-              "--seed needs a whole number from 0 to 4294967295, not '-3'");
-    EXPECT_EQ(OptionError({"run", "x", "--seed", "4294967296"}),
-              "--seed needs a whole number from 0 to 4294967295, not '4294967296'");
-    EXPECT_EQ(OptionError({"run", "x", "--for", "1e9"}),
-              "--for 1e9 takes more than 100000000 frames; raise --dt or --accel");
+    const std::string usage = "; usage: hullsim run SCENARIO [options] (see hullsim --help)";
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{}, "no command given" + usage},
+        {{"walk", "x"}, "unknown command 'walk'" + usage},
+        {{"run", "x", "--dt", "0"}, "--dt needs a number above 0, not '0'"},
+        {{"run", "x", "--dt", "fast"}, "--dt needs a number above 0, not 'fast'"},
+        {{"run", "x", "--for", "-1"}, "--for needs a number of 0 or more, not '-1'"},
+        {{"run", "x", "--for", "inf"}, "--for needs a number of 0 or more, not 'inf'"},
+        {{"run", "x", "--accel", "nan"}, "--accel needs a number above 0, not 'nan'"},
+        {{"run", "x", "--seed", "-3"}, "--seed needs a whole number from 0 to 4294967295, not '-3'"},
+        {{"run", "x", "--seed", "4294967296"},
+         "--seed needs a whole number from 0 to 4294967295, not '4294967296'"},
+        {{"run", "x", "--for", "1e9"}, "--for 1e9 takes more than 100000000 frames; raise --dt or --accel"},
+        {{"run", "x", "--plot", "p.svg", "--telemetry-interval", "0"},
+         "--telemetry-interval needs a number above 0, not '0'"},
+        {{"run", "x", "--plot", "p.svg", "--telemetry-interval", "-2"},
+         "--telemetry-interval needs a number above 0, not '-2'"},
+        {{"run", "x", "--plot", "p.svg", "--telemetry-interval", "1s"},
+         "--telemetry-interval needs a number above 0, not '1s'"},
+        {{"run", "x", "--track", "A"}, "--track needs --telemetry or --plot"},
+        {{"run", "x", "--telemetry-interval", "5"}, "--telemetry-interval needs --telemetry or --plot"},
+        {{"run", "x", "--telemetry", "t.csv", "--track", ""}, "--track needs a vessel name"},
+        {{"run", "x", "--telemetry", "t.csv", "--for", "2e7", "--dt", "1", "--telemetry-interval", "0.1"},
+         "--telemetry-interval 0.1 takes more than 10000000 samples over --for 2e7; raise it"},
+    };
+    for (const auto &[args, message] : cases)
+        EXPECT_EQ(OptionError(args), message);
     // These messages come from the command-line library; they must be one line.
     for (auto args : {std::vector<std::string>{"run"},
                       {"run", "x", "--bogus"},
@@ -84,47 +104,6 @@ TEST(OptionsTest, BadCommandLinesAreUsageErrors) {
         EXPECT_NE(message, "(no error)") << args.back();
         EXPECT_EQ(message.find('\n'), std::string::npos) << message;
     }
-}
-
-TEST(OptionsTest, TelemetryOptions) {
-    Command plain = ParseCommandLine({"run", "demo"}, "/root");
-    EXPECT_TRUE(plain.run.telemetryPath.empty());
-    EXPECT_TRUE(plain.run.plotPath.empty());
-    EXPECT_TRUE(plain.run.tracks.empty());
-    EXPECT_EQ(plain.run.telemetryInterval, 1.0);
-
-    // --track takes one name each time, so the scenario after it stays the
-    // scenario; a name given twice is recorded once.
-    Command all =
-        ParseCommandLine({"run", "--telemetry", "t.csv", "--plot", "p.svg", "--track", "B", "--track", "A",
-                          "--track", "B", "--telemetry-interval", "0.5", "--track", "C", "demo"},
-                         "/root");
-    EXPECT_EQ(all.run.scenario, "demo");
-    EXPECT_EQ(all.run.telemetryPath, "t.csv");
-    EXPECT_EQ(all.run.plotPath, "p.svg");
-    EXPECT_EQ(all.run.tracks, (std::vector<std::string>{"B", "A", "C"}));
-    EXPECT_EQ(all.run.telemetryInterval, 0.5);
-
-    EXPECT_EQ(OptionError({"run", "x", "--plot", "p.svg", "--telemetry-interval", "0"}),
-              "--telemetry-interval needs a number above 0, not '0'");
-    EXPECT_EQ(OptionError({"run", "x", "--plot", "p.svg", "--telemetry-interval", "-2"}),
-              "--telemetry-interval needs a number above 0, not '-2'");
-    EXPECT_EQ(OptionError({"run", "x", "--plot", "p.svg", "--telemetry-interval", "1s"}),
-              "--telemetry-interval needs a number above 0, not '1s'");
-    EXPECT_EQ(OptionError({"run", "x", "--track", "A"}), "--track needs --telemetry or --plot");
-    EXPECT_EQ(OptionError({"run", "x", "--telemetry-interval", "5"}),
-              "--telemetry-interval needs --telemetry or --plot");
-    EXPECT_EQ(OptionError({"run", "x", "--telemetry", "t.csv", "--track", ""}),
-              "--track needs a vessel name");
-    EXPECT_EQ(OptionError({"run", "x", "--telemetry", "t.csv", "--for", "2e7", "--dt", "1",
-                           "--telemetry-interval", "0.1"}),
-              "--telemetry-interval 0.1 takes more than 10000000 samples over --for 2e7; raise it");
-    // Few frames bound the samples too: one a frame at most.
-    EXPECT_EQ(ParseCommandLine({"run", "x", "--telemetry", "t.csv", "--for", "1e7", "--accel", "1e4",
-                                "--telemetry-interval", "0.1"},
-                               "/root")
-                  .run.telemetryInterval,
-              0.1);
 }
 
 TEST(FrameClockTest, RoundingDoesNotAddAFrame) {

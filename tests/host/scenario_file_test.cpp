@@ -68,21 +68,13 @@ TEST(ScenarioFileTest, ReadsEverySection) {
     EXPECT_TRUE(scn.vessels[1].lines.empty());
 }
 
-TEST(ScenarioFileTest, WrittenTextReadsBackEqual) {
+TEST(ScenarioFileTest, WrittenTextReadsBackEqualWithEveryDigitOfTheDate) {
     ScenarioFile scn = ScenarioFile::Parse(kFull);
+    scn.mjd = 60123.123456789012;
     std::string text = scn.Text();
     EXPECT_EQ(ScenarioFile::Parse(text), scn);
     // Writing is stable: a second round gives the same text.
     EXPECT_EQ(ScenarioFile::Parse(text).Text(), text);
-}
-
-TEST(ScenarioFileTest, DatesKeepEveryDigit) {
-    ScenarioFile scn;
-    scn.mjd = 60123.123456789012;
-    scn.vessels.push_back({"A", "F\\C", {}});
-    ScenarioFile back = ScenarioFile::Parse(scn.Text());
-    ASSERT_TRUE(back.mjd.has_value());
-    EXPECT_EQ(*back.mjd, *scn.mjd);
 }
 
 TEST(ScenarioFileTest, WritesTheHostLayout) {
@@ -112,37 +104,34 @@ TEST(ScenarioFileTest, MinimalScenarioNeedsOnlyShips) {
 }
 
 TEST(ScenarioFileTest, MalformedScenariosNameTheLine) {
-    EXPECT_EQ(ParseError(""), "t.scn: no vessels (BEGIN_SHIPS ... END_SHIPS is missing or empty)");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nEND_SHIPS\n"),
-              "t.scn: no vessels (BEGIN_SHIPS ... END_SHIPS is missing or empty)");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nAlpha Fleet\\Korvan\nEND\nEND_SHIPS\n"),
-              "t.scn:2: ship line 'Alpha Fleet\\Korvan' has no ':' between the vessel's name and its class");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\n:Fleet\\Korvan\nEND\nEND_SHIPS\n"),
-              "t.scn:2: ship line ':Fleet\\Korvan' needs 'name:Folder\\Class'");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nA:\nEND\nEND_SHIPS\n"),
-              "t.scn:2: ship line 'A:' needs 'name:Folder\\Class'");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nA:F\\C\n  X 1\nEND_SHIPS\n"), "t.scn:2: vessel 'A' has no END line");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nA:F\\C\n  X 1\n"), "t.scn:2: vessel 'A' has no END line");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nA:F\\C\nEND\n"), "t.scn:1: section has no END_SHIPS");
-    EXPECT_EQ(ParseError("BEGIN_DESC\ntext\n"), "t.scn:1: section has no END_DESC");
-    EXPECT_EQ(ParseError("BEGIN_SHIPS\nA:F\\C\nEND\nA:F\\D\nEND\nEND_SHIPS\n"),
-              "t.scn:4: vessel 'A' is named twice");
-    EXPECT_EQ(ParseError("stray\nBEGIN_SHIPS\nA:F\\C\nEND\nEND_SHIPS\n"),
-              "t.scn:1: 'stray' is outside any section");
-}
-
-TEST(ScenarioFileTest, BadEnvironmentAndFocusAreErrors) {
     const std::string ships = "BEGIN_SHIPS\nA:F\\C\nEND\nEND_SHIPS\n";
-    EXPECT_EQ(ParseError("BEGIN_ENVIRONMENT\n Date MJD soon\nEND_ENVIRONMENT\n" + ships),
-              "t.scn:2: bad date 'soon': Date MJD needs a number");
-    EXPECT_EQ(ParseError("BEGIN_ENVIRONMENT\n Date MJD inf\nEND_ENVIRONMENT\n" + ships),
-              "t.scn:2: bad date 'inf': Date MJD needs a number");
-    EXPECT_EQ(ParseError("BEGIN_ENVIRONMENT\n Date MJD\nEND_ENVIRONMENT\n" + ships),
-              "t.scn:2: bad date '': Date MJD needs a number");
-    EXPECT_EQ(ParseError("BEGIN_FOCUS\n Ship Z\nEND_FOCUS\n" + ships),
-              "t.scn:2: the focus vessel 'Z' is not among the ships");
-    EXPECT_EQ(ParseError("BEGIN_FOCUS\n Target A\nEND_FOCUS\n" + ships),
-              "t.scn:2: 'Target A' in BEGIN_FOCUS: expected 'Ship name'");
+    const std::string none = "t.scn: no vessels (BEGIN_SHIPS ... END_SHIPS is missing or empty)";
+    const std::pair<std::string, std::string> cases[] = {
+        {"", none},
+        {"BEGIN_SHIPS\nEND_SHIPS\n", none},
+        {"BEGIN_SHIPS\nAlpha Fleet\\Korvan\nEND\nEND_SHIPS\n",
+         "t.scn:2: ship line 'Alpha Fleet\\Korvan' has no ':' between the vessel's name and its class"},
+        {"BEGIN_SHIPS\n:Fleet\\Korvan\nEND\nEND_SHIPS\n",
+         "t.scn:2: ship line ':Fleet\\Korvan' needs 'name:Folder\\Class'"},
+        {"BEGIN_SHIPS\nA:\nEND\nEND_SHIPS\n", "t.scn:2: ship line 'A:' needs 'name:Folder\\Class'"},
+        {"BEGIN_SHIPS\nA:F\\C\n  X 1\nEND_SHIPS\n", "t.scn:2: vessel 'A' has no END line"},
+        {"BEGIN_SHIPS\nA:F\\C\n  X 1\n", "t.scn:2: vessel 'A' has no END line"},
+        {"BEGIN_SHIPS\nA:F\\C\nEND\n", "t.scn:1: section has no END_SHIPS"},
+        {"BEGIN_DESC\ntext\n", "t.scn:1: section has no END_DESC"},
+        {"BEGIN_SHIPS\nA:F\\C\nEND\nA:F\\D\nEND\nEND_SHIPS\n", "t.scn:4: vessel 'A' is named twice"},
+        {"stray\n" + ships, "t.scn:1: 'stray' is outside any section"},
+        {"BEGIN_ENVIRONMENT\n Date MJD soon\nEND_ENVIRONMENT\n" + ships,
+         "t.scn:2: bad date 'soon': Date MJD needs a number"},
+        {"BEGIN_ENVIRONMENT\n Date MJD inf\nEND_ENVIRONMENT\n" + ships,
+         "t.scn:2: bad date 'inf': Date MJD needs a number"},
+        {"BEGIN_ENVIRONMENT\n Date MJD\nEND_ENVIRONMENT\n" + ships,
+         "t.scn:2: bad date '': Date MJD needs a number"},
+        {"BEGIN_FOCUS\n Ship Z\nEND_FOCUS\n" + ships, "t.scn:2: the focus vessel 'Z' is not among the ships"},
+        {"BEGIN_FOCUS\n Target A\nEND_FOCUS\n" + ships,
+         "t.scn:2: 'Target A' in BEGIN_FOCUS: expected 'Ship name'"},
+    };
+    for (const auto &[text, message] : cases)
+        EXPECT_EQ(ParseError(text), message) << text;
     // Another form of the date is kept as it is.
     ScenarioFile scn =
         ScenarioFile::Parse("BEGIN_ENVIRONMENT\n Date JD 2451545.0\nEND_ENVIRONMENT\n" + ships);
