@@ -6,53 +6,41 @@ using ::testing::ElementsAre;
 class UpdaterWalkTest : public ProbeTest {
   protected:
     UpdaterWalkTest() : p(LoadProbe("P1")) {}
-    void Walk() {
-        p.runs.clear();
-        p.WalkUpdaters();
-    }
     ProbeVessel &p;
 };
 
-TEST_F(UpdaterWalkTest, AddingTwiceKeepsOneEntry) {
-    p.AddUpdater(Call(&ProbeVessel::U_A));
-    p.AddUpdater(Call(&ProbeVessel::U_A));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("A"));
-}
-
-TEST_F(UpdaterWalkTest, UpdaterAddedDuringTheWalkRunsInTheSameStep) {
-    p.AddUpdater(Call(&ProbeVessel::U_ADDS_C));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("ADDS_C", "C"));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("ADDS_C", "C"));
-}
-
-TEST_F(UpdaterWalkTest, SelfRemovalPassesOverTheNextOneForThisStep) {
-    p.AddUpdater(Call(&ProbeVessel::U_REMOVES_SELF));
-    p.AddUpdater(Call(&ProbeVessel::U_B));
-    p.AddUpdater(Call(&ProbeVessel::U_C));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("REMOVES_SELF", "C"));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("B", "C"));
-}
-
-TEST_F(UpdaterWalkTest, RemovingAnEarlierUpdaterShiftsTheWalk) {
-    p.AddUpdater(Call(&ProbeVessel::U_A));
-    p.AddUpdater(Call(&ProbeVessel::U_REMOVES_A));
-    p.AddUpdater(Call(&ProbeVessel::U_B));
-    p.AddUpdater(Call(&ProbeVessel::U_C));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("A", "REMOVES_A", "C"));
-    Walk();
-    EXPECT_THAT(p.runs, ElementsAre("REMOVES_A", "B", "C"));
-}
-
-TEST_F(UpdaterWalkTest, RemovingWhatIsNotThereDoesNothing) {
+// An updater added twice runs once; one added during the walk runs in the same
+// step; one that removes itself passes over the next one for this step; a
+// removal of an earlier one shifts the walk; a removal of one that is not
+// there does nothing.
+TEST_F(UpdaterWalkTest, ChangesDuringTheWalkTakeEffectInTheListsOrder) {
+    using U = void (ProbeVessel::*)();
+    const struct {
+        std::vector<U> added;
+        std::vector<std::string> first, second;
+    } cases[] = {
+        {{&ProbeVessel::U_A, &ProbeVessel::U_A}, {"A"}, {"A"}},
+        {{&ProbeVessel::U_ADDS_C}, {"ADDS_C", "C"}, {"ADDS_C", "C"}},
+        {{&ProbeVessel::U_REMOVES_SELF, &ProbeVessel::U_B, &ProbeVessel::U_C},
+         {"REMOVES_SELF", "C"},
+         {"B", "C"}},
+        {{&ProbeVessel::U_A, &ProbeVessel::U_REMOVES_A, &ProbeVessel::U_B, &ProbeVessel::U_C},
+         {"A", "REMOVES_A", "C"},
+         {"REMOVES_A", "B", "C"}},
+    };
+    for (const auto &c : cases) {
+        ProbeVessel &q = LoadProbe("Q" + std::to_string(&c - cases));
+        for (U u : c.added)
+            q.AddUpdater(Call(u));
+        q.WalkUpdaters();
+        EXPECT_EQ(q.runs, c.first) << c.first[0];
+        q.runs.clear();
+        q.WalkUpdaters();
+        EXPECT_EQ(q.runs, c.second) << c.first[0];
+    }
     p.AddUpdater(Call(&ProbeVessel::U_A));
     p.RemoveUpdater(Call(&ProbeVessel::U_B));
-    Walk();
+    p.WalkUpdaters();
     EXPECT_THAT(p.runs, ElementsAre("A"));
 }
 
