@@ -2,15 +2,11 @@
 
 #include <gtest/gtest.h>
 
-TEST(ConfigTable, FirstInsertionWins) {
+TEST(ConfigTable, FirstInsertionWinsAndGetOfAMissingKeyAddsItEmpty) {
     ConfigTable table;
     EXPECT_TRUE(table.Insert("B", "1"));
     EXPECT_FALSE(table.Insert("B", "2"));
     EXPECT_EQ(*table.Find("B"), "1");
-}
-
-TEST(ConfigTable, GetOfMissingKeyYieldsEmptyAndAddsEntry) {
-    ConfigTable table;
     EXPECT_EQ(table.Find("Z"), nullptr);
     EXPECT_EQ(table.Get("Z"), "");
     ASSERT_NE(table.Find("Z"), nullptr);

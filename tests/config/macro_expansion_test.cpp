@@ -21,12 +21,9 @@ TEST(ExpandMacros, LabelWordsGoAtFirstOccurrenceOnly) {
     EXPECT_EQ(Expanded("X=1 pos"), "X=1 pos");
 }
 
-TEST(ExpandMacros, InnerWordsBecomeOneBlank) {
+TEST(ExpandMacros, InnerWordsBecomeOneBlankAndThePhysicsLineLosesAllItsLabels) {
     EXPECT_EQ(Expanded("1 RR 2 SF 3 CS 4 CW 5"), "1 2 3 4 5");
     EXPECT_EQ(Expanded("RR 2"), "RR 2");
-}
-
-TEST(ExpandMacros, PhysicsLineLosesAllItsLabels) {
     EXPECT_EQ(Expanded("Physics=Mass 1 PMI 2 3 4 RR 5 6 7 SF 8 9 PMS 1 YMS 1"),
               "Physics=1 2 3 4 5 6 7 8 9 1 1");
 }

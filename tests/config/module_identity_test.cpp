@@ -2,26 +2,19 @@
 
 #include <gtest/gtest.h>
 
-TEST(ModuleIdentity, NamesFromAFullPath) {
-    const ModuleIdentity id = IdentifyModule("C:\\Orbiter\\Modules\\Fleet\\Korvan.dll");
-    EXPECT_EQ(id.moduleFile, "Korvan.dll");
-    EXPECT_EQ(id.ClassFolder, "Fleet");
-    EXPECT_EQ(id.moduleName, "Korvan");
-}
+#include <tuple>
 
-TEST(ModuleIdentity, ShortAndDegeneratePathsAreSafe) {
-    const ModuleIdentity bare = IdentifyModule("abc");
-    EXPECT_EQ(bare.moduleFile, "abc");
-    EXPECT_EQ(bare.ClassFolder, "");
-    EXPECT_EQ(bare.moduleName, "");
-
-    const ModuleIdentity empty = IdentifyModule("");
-    EXPECT_EQ(empty.moduleFile, "");
-    EXPECT_EQ(empty.moduleName, "");
-
-    const ModuleIdentity trailing = IdentifyModule("\\x\\Fleet\\");
-    EXPECT_EQ(trailing.moduleFile, "");
-    EXPECT_EQ(trailing.ClassFolder, "Fleet");
+TEST(ModuleIdentity, NamesFromFullShortAndDegeneratePaths) {
+    const std::pair<const char *, std::tuple<std::string, std::string, std::string>> cases[] = {
+        {"C:\\Orbiter\\Modules\\Fleet\\Korvan.dll", {"Korvan.dll", "Fleet", "Korvan"}},
+        {"abc", {"abc", "", ""}},
+        {"", {"", "", ""}},
+        {"\\x\\Fleet\\", {"", "Fleet", ""}},
+    };
+    for (const auto &[path, names] : cases) {
+        const ModuleIdentity id = IdentifyModule(path);
+        EXPECT_EQ(std::tie(id.moduleFile, id.ClassFolder, id.moduleName), names) << path;
+    }
 }
 
 TEST(ModuleIdentity, ConfigPathsWithAndWithoutSubtype) {
