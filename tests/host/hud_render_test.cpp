@@ -40,10 +40,8 @@ TEST(HudSketchpad, RecordsShapesWithThePenAndTextColourInForce) {
     ASSERT_EQ(pad.Shapes().size(), 4u);
     const auto &second = pad.Shapes()[1];
     EXPECT_EQ(second.kind, hullhost::HudShape::LINE);
-    EXPECT_EQ(second.x0, 3);
-    EXPECT_EQ(second.y1, 6);
+    EXPECT_EQ((std::vector{second.x0, second.y1, second.width}), (std::vector{3, 6, 3}));
     EXPECT_EQ(second.colour, 0x123456u);
-    EXPECT_EQ(second.width, 3);
     EXPECT_FALSE(pad.Shapes()[2].stroked);
     EXPECT_EQ(pad.Shapes()[3].text, "abc");
     EXPECT_EQ(pad.Shapes()[3].colour, 0xffu);

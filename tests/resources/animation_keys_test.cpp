@@ -21,21 +21,19 @@ constexpr DWORD kA = 30, kS = 31, kD = 32, kF = 33, kG = 34;
 
 class AnimKeys : public AnimTest {
   protected:
-    AnimKeys() { std::fill(std::begin(kstate), std::end(kstate), 0); }
     AnimProbe &Load() { return LoadAnimated(kComponents, kControls); }
+    // The key state with only the listed keys down.
+    char *Down(std::initializer_list<int> held) {
+        std::fill(std::begin(kstate), std::end(kstate), 0);
+        for (int k : held)
+            kstate[k] = static_cast<char>(0x80);
+        return kstate;
+    }
     // Presses `key` with the listed keys held.
     int Press(DWORD key, std::initializer_list<int> held = {}) {
-        std::fill(std::begin(kstate), std::end(kstate), 0);
-        for (int k : held)
-            kstate[k] = static_cast<char>(0x80);
-        return probe->AnimKeyEvent(key, kstate);
+        return probe->AnimKeyEvent(key, Down(held));
     }
-    void Hold(std::initializer_list<int> held) {
-        std::fill(std::begin(kstate), std::end(kstate), 0);
-        for (int k : held)
-            kstate[k] = static_cast<char>(0x80);
-        probe->DriveHeldKeys(kstate);
-    }
+    void Hold(std::initializer_list<int> held) { probe->DriveHeldKeys(Down(held)); }
     char kstate[256];
 };
 
