@@ -28,7 +28,10 @@ void WriteRootFile(const std::string &path, std::string_view text);
 // Registers `module` in `world` as the module of the host class
 // "FuzzHost\Stage", and makes the vessel code of the program stand for
 // Modules\Fleet\<Korvan|Generic>.dll, so that it reads its configuration from
-// Config\Vessels\Fleet\ as the real module does.
+// Config\Vessels\Fleet\ as the real module does. Vessels that a stage spawns
+// at run time (class Fleet\Generic) are not made: the root has no module
+// library for them, so the host refuses them as it refuses any class without
+// one, and the stage goes on without them.
 void UseModule(hullhost::World &world, FleetModule module);
 // The host class that UseModule serves.
 inline constexpr const char *kHostClass = "FuzzHost\\Stage";
