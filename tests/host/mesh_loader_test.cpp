@@ -28,11 +28,10 @@ TEST(MeshLoader, GroupsAreNumberedByTheLinesThatHoldTheWordLabel) {
                    "; a stray LABEL in a comment\n"
                    "LABEL Skirt\n",
                    notes);
-    ASSERT_EQ(m.groups.size(), 4u);
-    EXPECT_EQ(m.groups[0].label, "Tank");
-    EXPECT_EQ(m.groups[1].label, "Nozzle Bell");
-    EXPECT_EQ(m.groups[2].label, "in a comment");
-    EXPECT_EQ(m.groups[3].label, "Skirt");
+    std::vector<std::string> labels;
+    for (const auto &g : m.groups)
+        labels.push_back(g.label);
+    EXPECT_EQ(labels, (std::vector<std::string>{"Tank", "Nozzle Bell", "in a comment", "Skirt"}));
     EXPECT_EQ(m.groups[0].vertices.size(), 1u);
     EXPECT_EQ(notes.skipped, 1); // the LABEL that doesn't start its line
 }
@@ -47,20 +46,18 @@ TEST(MeshLoader, ReadsMaterialsTexturesAndGroupFields) {
                    notes);
     EXPECT_EQ(notes.skipped, 0);
     ASSERT_EQ(m.materials.size(), 2u);
-    EXPECT_FLOAT_EQ(m.materials[0].diffuse.g, 0.25f);
-    EXPECT_FLOAT_EQ(m.materials[0].diffuse.a, 1.0f); // alpha defaults to 1
-    EXPECT_FLOAT_EQ(m.materials[0].specular.a, 0.5f);
-    EXPECT_FLOAT_EQ(m.materials[0].power, 12.0f);
+    // Alpha defaults to 1.
+    const MATERIAL &hull = m.materials[0];
+    EXPECT_EQ((std::vector{hull.diffuse.g, hull.diffuse.a, hull.specular.a, hull.power}),
+              (std::vector{0.25f, 1.0f, 0.5f, 12.0f}));
     EXPECT_FLOAT_EQ(m.materials[1].ambient.r, hullhost::kDefaultMaterial.ambient.r);
     EXPECT_EQ(m.textureNames, (std::vector<std::string>{"Fleet\\Hull", "Fleet\\Engine"}));
     const auto &g = m.groups.at(0);
     EXPECT_EQ(g.material, 1);
-    EXPECT_EQ(g.texture, 2u);
-    EXPECT_EQ(g.userFlag, 7u);
+    EXPECT_EQ((std::vector{g.texture, g.userFlag}), (std::vector{2u, 7u}));
     ASSERT_EQ(g.vertices.size(), 3u);
-    EXPECT_FLOAT_EQ(g.vertices[0].nz, 0.0f);
-    EXPECT_FLOAT_EQ(g.vertices[1].nz, 1.0f);
-    EXPECT_FLOAT_EQ(g.vertices[2].tv, 0.25f);
+    EXPECT_EQ((std::vector{g.vertices[0].nz, g.vertices[1].nz, g.vertices[2].tv}),
+              (std::vector{0.0f, 1.0f, 0.25f}));
     EXPECT_EQ(g.indices, (std::vector<WORD>{0, 1, 2, 2, 1, 0}));
 }
 
