@@ -136,10 +136,28 @@ TEST_F(WorldScenarioTest, StateHasTheFixedFields) {
     std::vector<std::string> fields;
     for (auto &[key, value] : v.items())
         fields.push_back(key);
-    std::vector<std::string> want{
-        "name",    "class",       "emptyMass",       "mass",           "size",   "pmi",   "crossSections",
-        "rotDrag", "cw",          "touchdownPoints", "focusEnabled",   "status", "rpos",  "rvel",
-        "surface", "propellants", "thrusters",       "thrusterGroups", "meshes", "docks", "attachments"};
+    std::vector<std::string> want{"name",
+                                  "class",
+                                  "emptyMass",
+                                  "mass",
+                                  "size",
+                                  "pmi",
+                                  "crossSections",
+                                  "rotDrag",
+                                  "cw",
+                                  "touchdownPoints",
+                                  "focusEnabled",
+                                  "status",
+                                  "parent",
+                                  "rpos",
+                                  "rvel",
+                                  "surface",
+                                  "propellants",
+                                  "thrusters",
+                                  "thrusterGroups",
+                                  "meshes",
+                                  "docks",
+                                  "attachments"};
     want.insert(want.end(), {"visual", "exhausts", "particleStreams", "beacons", "animations", "lights"});
     EXPECT_EQ(fields, want);
     EXPECT_EQ(v["name"], "A");

@@ -131,6 +131,8 @@ bool VESSEL::AttachChild(OBJHANDLE child, ATTACHMENTHANDLE attachment,
     c->parent = vessel;
     c->landed = false;
     hullhost::physics::PlaceOnParent(*c);
+    if (world.events)
+        world.events->OnAttached(*vessel, *c, parentPoint->id);
     return true;
 }
 
@@ -142,5 +144,7 @@ bool VESSEL::DetachChild(ATTACHMENTHANDLE attachment, double vel) const {
     hullhost::physics::PlaceOnParent(*child);
     Release(*a);
     hullhost::physics::Detach(*child, *vessel, a->dir, vel);
+    if (auto &world = hullhost::World::Current(); world.events)
+        world.events->OnDetached(*vessel, *child, a->id, vel);
     return true;
 }

@@ -26,6 +26,11 @@ class WorldEvents {
     virtual void OnKey(const Vessel &focus, DWORD key, bool down, const char *kstate) = 0;
     // The time acceleration took a new value.
     virtual void OnTimeAccel(double value) = 0;
+    // `child` was hung on `parent`'s point `point` (the point's id), or let
+    // go from it at `velocity` m/s.
+    virtual void OnAttached(const Vessel &parent, const Vessel &child, const std::string &point) = 0;
+    virtual void OnDetached(const Vessel &parent, const Vessel &child, const std::string &point,
+                            double velocity) = 0;
 };
 
 } // namespace hullhost

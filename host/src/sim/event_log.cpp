@@ -73,4 +73,14 @@ void EventLog::OnKey(const Vessel &focus, DWORD key, bool down, const char *ksta
 
 void EventLog::OnTimeAccel(double value) { Add("timeaccel", {{"value", value}}); }
 
+void EventLog::OnAttached(const Vessel &parent, const Vessel &child, const std::string &point) {
+    Add("attached", {{"parent", parent.Name()}, {"child", child.Name()}, {"point", point}});
+}
+
+void EventLog::OnDetached(const Vessel &parent, const Vessel &child, const std::string &point,
+                          double velocity) {
+    Add("detached",
+        {{"parent", parent.Name()}, {"child", child.Name()}, {"point", point}, {"velocity", velocity}});
+}
+
 } // namespace hullhost::sim

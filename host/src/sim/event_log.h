@@ -53,6 +53,9 @@ class EventLog final : public WorldEvents {
     void OnFocus(const Vessel *v) override;
     void OnKey(const Vessel &focus, DWORD key, bool down, const char *kstate) override;
     void OnTimeAccel(double value) override;
+    void OnAttached(const Vessel &parent, const Vessel &child, const std::string &point) override;
+    void OnDetached(const Vessel &parent, const Vessel &child, const std::string &point,
+                    double velocity) override;
 
   private:
     using Field = std::pair<const char *, nlohmann::ordered_json>;

@@ -46,6 +46,7 @@ json Flight(const World &world, const Vessel &v) {
     VECTOR3 originVel = earth ? earth->vel : VECTOR3{0, 0, 0};
     json flight = {
         {"status", v.landed ? "landed" : "free"},
+        {"parent", v.parent ? json(v.parent->Name()) : json(nullptr)},
         {"rpos", Vec(v.pos - origin)},
         {"rvel", Vec(v.vel - originVel)},
     };
