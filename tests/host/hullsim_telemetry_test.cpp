@@ -93,22 +93,18 @@ TEST_F(HullsimTelemetryTest, TrackedVesselsInTheirOrderAndTheirChart) {
     }
     EXPECT_EQ(rows[4][kMass], "1450.000"); // Q&A coasts
 
+    // A line for each of the four values of each vessel, a point for each sample.
     const std::vector<hosttest::XmlElement> chart = hosttest::ParseXml(ReadText(svg));
     ASSERT_EQ(chart.front().name, "svg");
     int lines = 0;
-    std::vector<std::string> texts;
     for (const auto &e : chart) {
         if (e.name == "polyline") {
             ++lines;
             const std::string &points = e.attributes.at("points");
-            EXPECT_EQ(std::count(points.begin(), points.end(), ','), 3) << points; // one per sample
+            EXPECT_EQ(std::count(points.begin(), points.end(), ','), 3) << points;
         }
-        if (e.name == "text")
-            texts.push_back(e.text);
     }
-    EXPECT_EQ(lines, 8); // altitude, apogee, perigee and mass of each vessel
-    EXPECT_NE(std::find(texts.begin(), texts.end(), "Q&A"), texts.end());
-    EXPECT_NE(std::find(texts.begin(), texts.end(), "P"), texts.end());
+    EXPECT_EQ(lines, 8);
 }
 
 TEST_F(HullsimTelemetryTest, FailedTelemetryRunsWriteNothing) {
