@@ -3,7 +3,6 @@
 // the vent of the residual propellant after the last payload. Each element
 // is spawned as a vessel of its own, hung on its point, and released 0.2 s
 // later.
-#include <cstdio>
 #include <string>
 
 #include "stage/korvan.h"
@@ -20,12 +19,6 @@ bool Spawned(Korvan &k, const char *record) {
 void SetGroup(Korvan &k, const char *group, double level) {
     if (const THRUSTERGROUP_REC *g = k.ThrusterGroupTable.Find(group); g && g->handle)
         k.SetThrusterGroupLevel(g->handle, level);
-}
-
-double ConfigNumber(Korvan &k, const char *key) {
-    double value = 0.0;
-    std::sscanf(k.Cfg(key).c_str(), "%lf", &value);
-    return value;
 }
 
 } // namespace
@@ -45,7 +38,7 @@ void Korvan::K_DROP_FAIRING() {
     SetThrusterGroupLevel(groupFwd, 1.0); // the ullage motors push the stage clear
     fairingDropped = true;
     AddOneShot(5.0, static_cast<VesselCall>(&Korvan::K_DROP_FAIRING_STOP));
-    DryMass -= ConfigNumber(*this, "MidFairingMass");
+    DryMass -= CfgNumber("MidFairingMass");
     UpdateCompositeMass();
 }
 
@@ -72,7 +65,7 @@ void Korvan::K_DROP_SOZ() {
     if (rcsTank)
         SetPropellantMass(rcsTank, 0.0);
     sozDropped = true;
-    DryMass -= ConfigNumber(*this, "EmptySOZMass");
+    DryMass -= CfgNumber("EmptySOZMass");
     UpdateCompositeMass();
 }
 

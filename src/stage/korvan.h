@@ -53,6 +53,9 @@ class Korvan : public HULLKIT {
     void UpdateMainGimbal(ANIM_CTRL_REC *control);
     // The end of the ullage countdown.
     void Ignite();
+    // A plain key's number; a missing or malformed key reads as 0.
+    double CfgNumber(const char *key);
+
     // --- Jettison ---------------------------------------------------------------
     // Spawns the two SOZ, which leave 0.2 s later.
     void DropSoz();

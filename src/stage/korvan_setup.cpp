@@ -2,17 +2,6 @@
 #include "config/value_scan.h"
 #include "stage/korvan.h"
 
-namespace {
-
-// A plain key's number; a missing or malformed key reads as 0.
-double Number(const std::string &text) {
-    double value = 0.0;
-    ScanDouble(text, value);
-    return value;
-}
-
-} // namespace
-
 void Korvan::InitDefaults() {
     HULLKIT::InitDefaults();
     program = std::make_unique<FlightProgram>();
@@ -30,7 +19,7 @@ void Korvan::ApplyConfiguration() {
     rollControl = nullptr; // the engine has no roll gimbal
     const THRUSTER_REC *main0 = ThrusterTable.Find("Main0");
     mainThruster = main0 ? main0->handle : nullptr;
-    ullageTime = Number(Cfg("UllageTime"));
+    ullageTime = CfgNumber("UllageTime");
     maxIgnitions = 0;
     ScanInt(Cfg("MaxNumberOfIgnitions"), maxIgnitions);
     const TANK_REC *rcs = TankTable.Find("RCS");
@@ -41,10 +30,16 @@ void Korvan::ApplyConfiguration() {
     const MESH_REC *fairing = MeshTable.Find("Fairing");
     fairingDropped = fairing && fairing->vis == 0;
     if (!fairingDropped)
-        DryMass += Number(Cfg("MidFairingMass"));
+        DryMass += CfgNumber("MidFairingMass");
     const MESH_REC *soz = MeshTable.Find("SOZL");
     sozDropped = soz && soz->vis == 0;
     if (!sozDropped)
-        DryMass += Number(Cfg("EmptySOZMass"));
+        DryMass += CfgNumber("EmptySOZMass");
     UpdateCompositeMass();
+}
+
+double Korvan::CfgNumber(const char *key) {
+    double value = 0.0;
+    ScanDouble(Cfg(key), value);
+    return value;
 }
