@@ -40,6 +40,17 @@ class Vessel : public Object {
     bool landed = false;
     double surfLng = 0.0, surfLat = 0.0, surfHdg = 0.0; // while landed [rad]
     Vessel *parent = nullptr;                           // set while hung on a parent's attachment
+    // The free state as a scenario or the module last placed it, told against
+    // `body`. While the vessel's global state is still the one it gave, the
+    // vessel reports these values rather than ones computed back from the
+    // global frame, so that a scenario loads and saves to the same text.
+    struct Placement {
+        const Body *body = nullptr;
+        VECTOR3 rpos, rvel, arot; // as given
+        VECTOR3 pos, vel;         // the global state they gave
+        MATRIX3 rot;
+        bool valid = false;
+    } placed;
 
     // --- Body set-up -------------------------------------------------------
     double emptyMass = 0.0;

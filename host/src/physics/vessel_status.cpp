@@ -52,6 +52,19 @@ void PlaceFree(Vessel &v, Body *body, const VECTOR3 &rpos, const VECTOR3 &rvel, 
     v.vel = body ? body->vel + rvel : rvel;
     v.rot = OrientationFromAngles(arot);
     v.omega = vrot;
+    v.placed = {body, rpos, rvel, arot, v.pos, v.vel, v.rot, true};
+}
+
+bool Same(const VECTOR3 &a, const VECTOR3 &b) { return a.x == b.x && a.y == b.y && a.z == b.z; }
+
+// True while nothing has moved the vessel since it was placed against `ref`.
+bool StillAsPlaced(const Vessel &v, const Body *ref) {
+    const Vessel::Placement &p = v.placed;
+    const MATRIX3 &a = v.rot, &b = p.rot;
+    return p.valid && p.body == ref && !v.landed && Same(v.pos, p.pos) && Same(v.vel, p.vel) &&
+           Same({a.m11, a.m12, a.m13}, {b.m11, b.m12, b.m13}) &&
+           Same({a.m21, a.m22, a.m23}, {b.m21, b.m22, b.m23}) &&
+           Same({a.m31, a.m32, a.m33}, {b.m31, b.m32, b.m33});
 }
 
 } // namespace
@@ -69,6 +82,11 @@ void GetStatus2(const World &world, const Vessel &v, VESSELSTATUS2 &st) {
     st.rvel = v.vel - originVel;
     st.vrot = v.omega;
     st.arot = AnglesFromOrientation(v.rot);
+    if (StillAsPlaced(v, ref)) {
+        st.rpos = v.placed.rpos;
+        st.rvel = v.placed.rvel;
+        st.arot = v.placed.arot;
+    }
     const VECTOR3 place = SurfacePlace(v, ref);
     st.surf_lng = place.x;
     st.surf_lat = place.y;
