@@ -122,40 +122,4 @@ TEST_F(HullsimFleetTest, StagesFlownByKeysIgniteBurnShutDownAndRefuse) {
     EXPECT_GT(rows.at(45)[4], rows.at(10)[4] + 100e3);
 }
 
-// J takes the stage's elements off in their order, as vessels of their own
-// that leave at the drawn speed; --state shows who carries whom.
-TEST_F(HullsimFleetTest, JettisonsShowAsDetachedVesselsInTheEventLog) {
-    const std::string payload = ":Fleet\\Generic\n  STATUS Orbiting Earth\n  RPOS 6571010 0 0\n"
-                                "  RVEL 0 0 7788.48\n  SUBTYPE Payload\nEND\n";
-    WriteText(dir / "drop.scn",
-              "BEGIN_ENVIRONMENT\n  Date MJD 61000.5\nEND_ENVIRONMENT\nBEGIN_FOCUS\n  Ship K\n"
-              "END_FOCUS\nBEGIN_SHIPS\nSat-1" +
-                  payload + "Sat-2" + payload +
-                  Stage("K", "  HK_FLAGS 0 0\n  PAYLOAD1 Sat-1\n  PAYLOAD2 Sat-2\n") + "END_SHIPS\n");
-    WriteText(dir / "j.keys", "1 J\n2 J\n3 J\n");
-    const hosttest::Result r =
-        Run({"run", dir / "drop.scn", "--root", HULLKIT_BUILD_ROOT, "--for", "3.5", "--dt", "0.1", "--keys",
-             dir / "j.keys", "--events", dir / "events.jsonl", "--state", dir / "state.json"});
-    ASSERT_EQ(r.code, 0) << r.err;
-    std::vector<std::string> attached, detached;
-    std::istringstream events(ReadText(dir / "events.jsonl"));
-    for (std::string line; std::getline(events, line);) {
-        const auto e = nlohmann::json::parse(line);
-        if (e["kind"] == "attached")
-            attached.push_back(e["child"].get<std::string>() + "@" + e["point"].get<std::string>());
-        if (e["kind"] == "detached") {
-            detached.push_back(e["child"]);
-            const double v = e["velocity"], least = e["child"] == "Sat-2" ? 0.4 : 0.8;
-            EXPECT_GE(v, least) << line;
-        }
-    }
-    EXPECT_EQ(attached, (std::vector<std::string>{"Sat-1@Payload1", "Sat-2@Payload2", "K-Fairing@Fairing",
-                                                  "K-SOZL@SOZL", "K-SOZR@SOZR"}));
-    EXPECT_EQ(detached, (std::vector<std::string>{"K-Fairing", "K-SOZL", "K-SOZR", "Sat-2"}));
-    const auto state = nlohmann::json::parse(ReadText(dir / "state.json"));
-    for (const auto &v : state["vessels"])
-        EXPECT_EQ(v["parent"], v["name"] == "Sat-1" ? nlohmann::json("K") : nlohmann::json(nullptr))
-            << v["name"];
-}
-
 } // namespace
