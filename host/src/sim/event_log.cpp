@@ -25,7 +25,10 @@ void EventLog::Add(std::string_view kind, std::initializer_list<Field> fields) {
     text_ += '\n';
 }
 
-void EventLog::Write() const { WriteFileAtomically(path_, text_); }
+void EventLog::Write() const {
+    if (!path_.empty())
+        WriteFileAtomically(path_, text_);
+}
 
 void EventLog::CheckEngines() {
     for (const auto &v : world_.Vessels()) {

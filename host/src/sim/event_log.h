@@ -44,8 +44,10 @@ class EventLog final : public WorldEvents {
 
     // Looks at the levels of the main thruster groups; after each frame.
     void CheckEngines();
-    // Writes the file (atomically).
+    // Writes the file (atomically); nothing without a path.
     void Write() const;
+    // The events so far, as the file will hold them.
+    const std::string &Text() const { return text_; }
 
     void OnMessage(const Vessel &v, const std::string &text) override;
     void OnCreated(const Vessel &v) override;

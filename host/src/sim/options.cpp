@@ -73,6 +73,14 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
         ->default_str("1");
     run.add_option("--plot", o.plotPath, "Draw altitude, apsides and mass over time to FILE as SVG")
         ->type_name("FILE");
+    run.add_option(
+           "--orbit-view", o.orbitViewPath,
+           "Draw the paths of the tracked vessels and the Moon's orbit, seen from above the Moon's orbit "
+           "plane, to FILE as SVG")
+        ->type_name("FILE");
+    run.add_flag("--summary", o.summary,
+                 "Print a mission summary of the tracked vessels at the end: timeline, burns, final orbit, "
+                 "closest approach to the Moon");
     run.add_option("--events", o.eventsPath,
                    "Write the run's events to FILE as JSON Lines, also when the run fails midway")
         ->type_name("FILE");
@@ -99,11 +107,11 @@ void CheckNumbers(const NumberTexts &n, RunOptions &o) {
 void CheckTelemetry(const NumberTexts &n, RunOptions &o) {
     if (!n.interval.empty())
         o.telemetryInterval = ParseNumber("--telemetry-interval", n.interval, false);
-    const bool output = !o.telemetryPath.empty() || !o.plotPath.empty();
-    if (!output && !o.tracks.empty())
-        throw UsageError("--track needs --telemetry or --plot");
+    const bool output = !o.telemetryPath.empty() || !o.plotPath.empty() || !o.orbitViewPath.empty();
+    if (!output && !o.summary && !o.tracks.empty())
+        throw UsageError("--track needs --telemetry, --plot, --orbit-view or --summary");
     if (!output && !n.interval.empty())
-        throw UsageError("--telemetry-interval needs --telemetry or --plot");
+        throw UsageError("--telemetry-interval needs --telemetry, --plot or --orbit-view");
     std::vector<std::string> tracks;
     for (const std::string &name : o.tracks) {
         if (name.empty())

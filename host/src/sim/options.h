@@ -21,6 +21,8 @@ struct RunOptions {
     std::string logPath;             // empty: no log file
     std::string telemetryPath;       // CSV of the tracked vessels; empty: none
     std::string plotPath;            // SVG chart of the tracked vessels; empty: none
+    std::string orbitViewPath;       // SVG orbit view of the tracked vessels; empty: none
+    bool summary = false;            // print the mission summary of the tracked vessels
     std::string eventsPath;          // JSON Lines log of the run's events; empty: none
     std::vector<std::string> tracks; // vessels to record; none: the focus vessel
     double telemetryInterval = 1.0;  // simulation time between samples [s]

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -10,6 +11,7 @@
 #include "event_log.h"
 #include "frame_clock.h"
 #include "key_player.h"
+#include "mission_summary.h"
 #include "progress.h"
 #include "run_telemetry.h"
 #include "scenario/atomic_write.h"
@@ -61,7 +63,7 @@ class WorkingDirectory {
 // Runs the frames of a world for `seconds` of simulation time, sampling the
 // telemetry and checking the engines for the event log (if any) after each.
 void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys, RunTelemetry *telemetry,
-               EventLog *events) {
+               EventLog *events, MissionSummary *summary) {
     KeyPlayer player(std::move(keys));
     Progress progress(stderr, options.seconds);
     double frames = 0;
@@ -85,12 +87,14 @@ void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> k
             telemetry->Sample(world);
         if (events)
             events->CheckEngines();
+        if (summary)
+            summary->Observe(world);
     }
 }
 
 // The outputs of a run, as absolute paths; empty for none.
 struct Outputs {
-    std::string save, state, hud, log, telemetry, plot, events;
+    std::string save, state, hud, log, telemetry, plot, orbitView, events;
 };
 
 // Loads the scenario into the world, runs it and writes the outputs.
@@ -98,11 +102,16 @@ void RunWorld(World &world, const ScenarioFile &scenario, const RunOptions &opti
               std::vector<KeyAction> keys, EventLog *events) {
     LoadScenario(world, scenario);
     std::optional<RunTelemetry> telemetry;
-    if (!out.telemetry.empty() || !out.plot.empty())
-        telemetry.emplace(out.telemetry, out.plot, options.tracks, options.telemetryInterval, world);
+    if (!out.telemetry.empty() || !out.plot.empty() || !out.orbitView.empty())
+        telemetry.emplace(out.telemetry, out.plot, out.orbitView, options.tracks, options.telemetryInterval,
+                          world);
+    std::optional<MissionSummary> summary;
+    if (options.summary)
+        summary.emplace(world, options.tracks);
     if (events)
         events->CheckEngines();
-    RunFrames(world, options, std::move(keys), telemetry ? &*telemetry : nullptr, events);
+    RunFrames(world, options, std::move(keys), telemetry ? &*telemetry : nullptr, events,
+              summary ? &*summary : nullptr);
 
     std::optional<std::string> stateText, scenarioText;
     if (!out.state.empty())
@@ -117,7 +126,9 @@ void RunWorld(World &world, const ScenarioFile &scenario, const RunOptions &opti
     if (scenarioText)
         WriteFileAtomically(out.save, *scenarioText);
     if (telemetry)
-        telemetry->Write();
+        telemetry->Write(world);
+    if (summary)
+        std::fputs(summary->Text(world, events ? events->Text() : std::string()).c_str(), stdout);
 }
 
 } // namespace
@@ -151,6 +162,7 @@ void RunScenario(const RunOptions &options) {
                       OutputPath(options.logPath, "--log"),
                       OutputPath(options.telemetryPath, "--telemetry"),
                       OutputPath(options.plotPath, "--plot"),
+                      OutputPath(options.orbitViewPath, "--orbit-view"),
                       OutputPath(options.eventsPath, "--events")};
     std::vector<KeyAction> keys;
     if (!options.keysPath.empty())
@@ -168,7 +180,9 @@ void RunScenario(const RunOptions &options) {
             throw std::runtime_error("can't write '" + out.log + "'");
     }
     std::optional<EventLog> events;
-    if (!out.events.empty())
+    // The summary's timeline comes from the events, kept in memory when no
+    // file is asked for.
+    if (!out.events.empty() || options.summary)
         events.emplace(world, out.events);
     try {
         RunWorld(world, scenario, options, out, std::move(keys), events ? &*events : nullptr);

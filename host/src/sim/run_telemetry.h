@@ -19,17 +19,17 @@ class RunTelemetry {
     // The paths are absolute or empty (no such output). Every tracked vessel
     // must exist in the loaded world; else throws std::runtime_error naming
     // it. Takes the first sample.
-    RunTelemetry(std::string csvPath, std::string plotPath, std::vector<std::string> tracks, double interval,
-                 const World &world);
+    RunTelemetry(std::string csvPath, std::string plotPath, std::string orbitViewPath,
+                 std::vector<std::string> tracks, double interval, const World &world);
 
     // After every frame; the recorder samples when the interval has passed.
     void Sample(const World &world) { recorder_.Sample(world); }
 
     // Writes the outputs, each in one piece.
-    void Write() const;
+    void Write(const World &world) const;
 
   private:
-    std::string csvPath_, plotPath_;
+    std::string csvPath_, plotPath_, orbitViewPath_;
     std::ostringstream csv_;
     telemetry::TelemetryRecorder recorder_;
 };

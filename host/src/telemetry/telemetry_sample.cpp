@@ -4,6 +4,7 @@
 
 #include "core/body.h"
 #include "core/world.h"
+#include "physics/ephemeris.h"
 #include "physics/flight_queries.h"
 
 namespace hullhost::telemetry {
@@ -13,6 +14,9 @@ TelemetrySample SampleVessel(const World &world, const Vessel &v) {
     s.time = world.simt;
     s.altitude = physics::VesselAltitude(world, v);
     s.mass = v.Mass();
+    s.ephemerisTime = physics::EphemerisTime(world);
+    if (const Body *earth = world.Earth())
+        s.earthPos = v.pos - earth->pos;
     if (const ThrusterGroup *main = v.GroupOfType(THGROUP_MAIN)) {
         s.mainLevel = v.GroupLevel(*main);
     }

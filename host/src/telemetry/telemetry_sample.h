@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "OrbiterAPI.h"
+
 namespace hullhost {
 class Vessel;
 class World;
@@ -19,6 +21,8 @@ struct TelemetrySample {
     double inclination = 0.0;     // to the reference body's equator [deg]
     double mass = 0.0;            // [kg]
     double mainLevel = 0.0;       // thrust level of the main group, 0..1
+    double ephemerisTime = 0.0;   // [s since MJD 51544.5], where the bodies were
+    VECTOR3 earthPos{0, 0, 0};    // relative to the Earth, global frame [m]
 };
 
 TelemetrySample SampleVessel(const World &world, const Vessel &v);
