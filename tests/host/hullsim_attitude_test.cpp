@@ -46,7 +46,7 @@ TEST_F(HullsimAttitudeTest, EachModeTurnsTheStageAndHoldsIt) {
     WriteText(dir / "orbit.scn",
               "BEGIN_ENVIRONMENT\n  Date MJD 61000.5\nEND_ENVIRONMENT\nBEGIN_SHIPS\nK:Fleet\\Korvan\n"
               "  STATUS Orbiting Earth\n  RPOS 6571010 0 0\n  RVEL 0 0 7788.48\n  AROT 0 0 0\n"
-              "  VROT 0 0 0\n  HK_FLAGS 0 0\n  UPDATERS K_FLIGHT\nEND\nEND_SHIPS\n");
+              "  VROT 0 0 0\n  HK_FLAGS 0 0\n  MET 100 0\n  UPDATERS K_FLIGHT H_MET\nEND\nEND_SHIPS\n");
     const ModeCase cases[] = {
         {"1 RBRACKET\n", 4, false, "4:1 4:0"},
         {"1 SEMICOLON\n", 5, false, "5:1 5:0"},

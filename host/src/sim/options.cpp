@@ -53,8 +53,8 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
     run.add_option("--dt", n.dt, "Frame length [real s]")->type_name("SECONDS")->default_str("0.02");
     run.add_option("--accel", n.accel, "Time acceleration at the start")->type_name("A")->default_str("1");
     run.add_option("--warp", n.warp,
-                   "Hold the time acceleration at A as a user would: whenever it is below A, press\n"
-                   "the key once a frame (ten times faster, at most A); a vessel's cap holds")
+                   "Hold the time acceleration at A as a user would, raising it again after each drop;\n"
+                   "a cap that a vessel keeps still holds")
         ->type_name("A");
     run.add_option("--seed", n.seed, "srand(N) right after each vessel's constructor, for repeatable runs")
         ->type_name("N");
