@@ -102,6 +102,8 @@ double AxisCommand(const Axis &a, double angle, double rate, double dt) {
     const double wanted = std::copysign(
         std::min({kMaxRate, std::sqrt(accel * std::fabs(angle)), gain * std::fabs(angle)}), angle);
     const double gap = wanted - rate;
+    if (std::fabs(gap) < kRateDeadband)
+        return 0.0;
     const double full = gap > 0.0 ? a.accelPlus : a.accelMinus;
     if (!(full > 0.0))
         return 0.0;

@@ -23,6 +23,8 @@ namespace hullhost::physics {
 constexpr double kMaxRate = 0.1;
 // The shortest time over which a rate gap is closed [s].
 constexpr double kRateTime = 0.5;
+// A rate gap below which the pilot doesn't fire [rad/s].
+constexpr double kRateDeadband = 1e-6;
 
 // Sets the host's firing of the vessel's attitude thrusters for a frame of
 // `dt` simulation seconds; true when it fired any.
