@@ -84,6 +84,21 @@ TEST_F(AttitudeTest, ModeZeroCommandsNothingAndAStuckChannelIsFeltOnlyUnderThrus
     k.AutopilotActive = false;               // by hand the failure isn't felt
     k.K_FLIGHT();
     EXPECT_NEAR(k.AttError.x, 0.0, 1e-9);
+    // With the focus, the user's input on one axis replaces the command on all three.
+    k.SetThrusterGroupLevel(k.groupMain, 0.0);
+    k.SetAngularVel(_V(0, 0.05, 0.05));
+    world->SetFocus(world->Vessels().at(0).get());
+    world->keyState[OAPI_KEY_NUMPAD2] = static_cast<char>(0x80); // pitch up
+    world->Frame(0.1);
+    k.K_FLIGHT();
+    EXPECT_FALSE(k.HasFocus);       // without a controller nobody tells the stage
+    EXPECT_EQ(k.AttCommand.y, 1.0); // so the loop brakes the yaw
+    k.HasFocus = true;
+    k.K_FLIGHT();
+    EXPECT_EQ(k.AttCommand.x, 1.0);
+    EXPECT_EQ(k.AttCommand.y, 0.0);
+    EXPECT_EQ(k.AttCommand.z, 0.0);
+    k.HasFocus = false;
 
     // Modes without a branch keep the error of the step before.
     k.NavOverrideMode = 2;
