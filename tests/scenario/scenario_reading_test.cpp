@@ -80,8 +80,8 @@ TEST_F(ScenarioTest, ResourceLinesOfTheScenarioGoBackOutAsTheyCameIn) {
     ProbeVessel &p = Load({"RESOURCE Tanks Main 10", "RESOURCE Tanks Extra 5", "RESOURCE AeroRecords A 1"});
 
     EXPECT_DOUBLE_EQ(p.TankTable.Find("Main")->fuel, 10.0);
-    EXPECT_THAT(FrameworkLines(p),
-                ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, ", "RESOURCE Tanks Main 10", "RESOURCE Tanks Extra 5"));
+    EXPECT_THAT(FrameworkLines(p), ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, ", "RESOURCE Tanks Main 10",
+                                               "RESOURCE Tanks Extra 5"));
 }
 
 TEST_F(ScenarioTest, MalformedLinesLeaveTheDefaults) {
