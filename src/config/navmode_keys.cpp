@@ -3,14 +3,8 @@
 #include <algorithm>
 
 #include "config/text_ops.h"
+#include "control/navmode_names.h"
 #include "frame/hullkit.h"
-
-namespace {
-
-const char *const kNavModeNames[8] = {"NONE",       "KILLROT", "HLEVEL",     "PROGRADE",
-                                      "RETROGRADE", "NORMAL",  "ANTINORMAL", "HOLDALT"};
-
-} // namespace
 
 void HULLKIT::ReadNavmodesKey() {
     const std::string &value = Cfg("Navmodes");

@@ -80,8 +80,8 @@ void HULLKIT::InitDefaults() {
     MaxTimeAccel = 1000000.0;
     SpotlightFogProbability = 0.2;
     SoundId = -1;
-    ImuYawReference = _V(1, 0, 0);
-    ImuPitchReference = _V(0, 0, 1);
+    ImuYawRef = _V(1, 0, 0);
+    ImuPitchRef = _V(0, 0, 1);
     EarthHandle = oapiGetGbodyByName("Earth");
     MoonHandle = oapiGetGbodyByName("Moon");
     HudPen = nullptr;

@@ -105,7 +105,7 @@ class HULLKIT : public VESSEL3 {
     virtual double PitchAngle();
     virtual double YawAngle();
     virtual double RollAngle();
-    virtual void AttitudeStep();
+    virtual double AttitudeStep();
     virtual void AttitudeControlStep();
     virtual void JettisonNext();
     virtual void OnTimeAccelChanged();
@@ -131,6 +131,29 @@ class HULLKIT : public VESSEL3 {
     void ToggleNavOverride();
     // Tells the controller that this vessel is in trouble.
     void RaiseAlert();
+
+    // --- Attitude loop and navigation modes ------------------------------------
+    // One step of the three-axis loop is ReadRates, ComputeError,
+    // RunControlLaw (and ReadManualInput by hand), ApplyThrusters, ApplyGimbal.
+    void ReadRates();
+    void ComputeError();
+    // Pitch and yaw error toward the mode's target vector, roll error from the bank.
+    void ModeError(int mode);
+    void BodyError();
+    void AntiBodyError();
+    // A global-frame vector in the body frame, by the vessel's Euler angles.
+    VECTOR3 BodyVector(const VECTOR3 &v) const;
+    // Pitch and yaw error toward a body-frame vector; roll 0.
+    static VECTOR3 ErrorFromVector(const VECTOR3 &v);
+    // Where the body's up axis points around the horizon: -1 to 1 over the circle.
+    double HorizonRoll() const;
+    void RunControlLaw();
+    void ReadManualInput();
+    void ApplyThrusters();
+    void ApplyGimbal();
+    // The host's modes 1 to 7 off, and every attitude group at 0.
+    void ClearHostNavmodes();
+    void ZeroAttitudeGroups();
 
     // --- Time acceleration -------------------------------------------------------
     // Keeps CurrentTimeAccel up to date and the host's acceleration under MaxTimeAccel.
@@ -531,7 +554,7 @@ class HULLKIT : public VESSEL3 {
     double CurrentTimeAccel, MaxTimeAccel;
     double SpotlightFogProbability;
     int SoundId;
-    VECTOR3 ImuYawReference, ImuPitchReference;
+    VECTOR3 ImuYawRef, ImuPitchRef;
     OBJHANDLE EarthHandle, MoonHandle;
     oapi::Pen *HudPen;
     // Presentation: the camera to come back to after a reload, the debug
@@ -541,7 +564,26 @@ class HULLKIT : public VESSEL3 {
     bool VcSwitchPending = false, ShowClock = false;
     // The navigation-mode override: the host's modes flown by the vessel itself.
     bool NavOverrideAvailable = false, NavOverrideEnabled = false;
+    // The mode the attitude loop flies: 0 none, 1 to 7 the host's numbers,
+    // 9 to 12 the program's tangent and body modes.
     int32_t NavOverrideMode = 0;
+    // The object of the modes BODY and ANTIBODY; null: those modes command nothing.
+    OBJHANDLE NavTargetObject = nullptr;
+    // The attitude loop's values of the step, each in the order pitch, yaw,
+    // roll (body x, y, z): the command (-1 to 1), the error [rad] and [deg],
+    // the rates [rad/s] and [deg/s] with the yaw turned, the error within
+    // ErrorLimit [rad] and [deg], and the rate limit, coast rate and blend chosen.
+    VECTOR3 AttCommand{0, 0, 0}, AttError{0, 0, 0}, AttErrorDeg{0, 0, 0};
+    VECTOR3 AngVel{0, 0, 0}, AngVelDeg{0, 0, 0};
+    VECTOR3 ClampedError{0, 0, 0}, ClampedErrorDeg{0, 0, 0};
+    VECTOR3 ActiveRateLimit{0, 0, 0}, ActiveCoastRate{0, 0, 0}, ActiveBlend{0, 0, 0};
+    // Where a failed control channel is stuck [rad]; 0 while it works.
+    double PitchStuckAngle = 0.0, YawStuckAngle = 0.0, RollStuckAngle = 0.0;
+    // The ascent pitch's altitude capture: the horizon velocity [m/s], the
+    // flight path angle [rad], and whether the capture has latched for good.
+    VECTOR3 HorizonVel{0, 0, 0};
+    double FlightPathAngle = 0.0;
+    bool PeriLatched = false;
 
     // Scenario-held state of later subsystems: the first pass stores these,
     // the saving writes them back as they stand.

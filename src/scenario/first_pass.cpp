@@ -27,7 +27,7 @@ void HULLKIT::ParseScenarioLine(char *line, void *status) {
         std::sscanf(line + 3, "%lf %d", &MissionTime, &show);
         ShowMet = show != 0;
     } else if (BeginsWithKey(line, "IMU")) {
-        VECTOR3 &y = ImuYawReference, &p = ImuPitchReference;
+        VECTOR3 &y = ImuYawRef, &p = ImuPitchRef;
         std::sscanf(line + 3, "%lf %lf %lf  %lf %lf %lf", &y.x, &y.y, &y.z, &p.x, &p.y, &p.z);
     } else if (BeginsWithKey(line, "RELIABILITY")) {
         std::sscanf(line + 11, "%lf", &Reliability);

@@ -92,7 +92,7 @@ void HULLKIT::WriteFrameworkKeys(FILEHANDLE scn) {
     const std::string ballistic = Format("%lf %lf %lf %lf %lf", b[0], b[1], b[2], b[3], b[4]);
     if (ballistic != "0.000000 0.000000 0.000000 0.000000 0.000000")
         WriteText(scn, "BALLISTIC", ballistic);
-    const VECTOR3 &y = ImuYawReference, &p = ImuPitchReference;
+    const VECTOR3 &y = ImuYawRef, &p = ImuPitchRef;
     const std::string imu = Format("%lf %lf %lf  %lf %lf %lf", y.x, y.y, y.z, p.x, p.y, p.z);
     if (imu != "1.000000 0.000000 0.000000  0.000000 0.000000 1.000000")
         WriteText(scn, "IMU", imu);

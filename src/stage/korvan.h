@@ -41,6 +41,7 @@ class Korvan : public HULLKIT {
     void OnAutopilotThrottle() override;
     void OnDetached() override;
     void JettisonNext() override;
+    void StartMissionClock() override;
 
     // --- The main engine ------------------------------------------------------
     // Starts the ullage countdown, unless the engine can't or needn't start;

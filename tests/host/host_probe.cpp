@@ -40,6 +40,7 @@ void HostProbe::clbkLoadStateEx(FILEHANDLE scn, void *status) {
             mainLevel = std::atof(line + 11);
         else if (std::sscanf(line, "PROBE_ANSWER %d %d", &bufferedAnswer, &directAnswer) == 2 ||
                  std::sscanf(line, "PROBE_WARP %lf", &warp) == 1 ||
+                 std::sscanf(line, "PROBE_CAP %lf", &cap) == 1 ||
                  std::sscanf(line, "PROBE_THROW %d", &throwAt) == 1)
             continue;
         else if (std::strcmp(line, "PROBE_RCS") == 0)
@@ -115,6 +116,8 @@ void HostProbe::clbkPreStep(double simt, double, double) {
     }
     if (warp > 0.0 && frames <= 2)
         oapiSetTimeAcceleration(warp);
+    if (cap > 0.0 && oapiGetTimeAcceleration() > cap)
+        oapiSetTimeAcceleration(cap);
     if (spawn && frames == 1) {
         VESSELSTATUS2 status{};
         status.version = 2;

@@ -15,6 +15,7 @@
 //   PROBE_SPAWN        creates NAME-child (a probe) in frame 1, deletes
 //                      itself in frame 2
 //   PROBE_WARP A       time acceleration A in frames 1 and 2
+//   PROBE_CAP A        in every frame, time acceleration A if it reads above
 //   PROBE_THROW N      throws std::runtime_error in frame N
 #pragma once
 
@@ -49,7 +50,7 @@ class HostProbe : public VESSEL3 {
     NOTEHANDLE note = nullptr;
     int bufferedAnswer = 1, directAnswer = 0;
     bool rcs = false, say = false, spawn = false;
-    double warp = 0.0;
+    double warp = 0.0, cap = 0.0;
     int throwAt = 0;
 
   private:

@@ -24,7 +24,7 @@ std::string OptionError(const std::vector<std::string> &args) {
 
 // The options as one record, to compare whole.
 auto Fields(const hullhost::sim::RunOptions &r) {
-    return std::tuple(r.scenario, r.root, r.seconds, r.dt, r.accel, r.seed, r.savePath, r.statePath,
+    return std::tuple(r.scenario, r.root, r.seconds, r.dt, r.accel, r.warp, r.seed, r.savePath, r.statePath,
                       r.keysPath, r.logPath, r.telemetryPath, r.plotPath, r.tracks, r.telemetryInterval);
 }
 
@@ -32,8 +32,8 @@ TEST(OptionsTest, DefaultsAndEveryOption) {
     Command plain = ParseCommandLine({"run", "demo"}, "/default/root");
     EXPECT_FALSE(plain.help);
     EXPECT_EQ(Fields(plain.run),
-              std::tuple("demo", "/default/root", 0.0, 0.02, 1.0, std::optional<unsigned>(), "", "", "", "",
-                         "", "", std::vector<std::string>{}, 1.0));
+              std::tuple("demo", "/default/root", 0.0, 0.02, 1.0, 0.0, std::optional<unsigned>(), "", "", "",
+                         "", "", "", std::vector<std::string>{}, 1.0));
 
     // --track takes one name each time, so the scenario after it stays the
     // scenario; a name given twice is recorded once.
@@ -43,11 +43,12 @@ TEST(OptionsTest, DefaultsAndEveryOption) {
                           "s.scn", "--state",     "s.json", "--keys",  "k.txt",      "--log",
                           "l.log", "--telemetry", "t.csv",  "--plot",  "p.svg",      "--track",
                           "B",     "--track",     "A",      "--track", "B",          "--telemetry-interval",
-                          "0.5",   "--track",     "C",      "x.scn"},
+                          "0.5",   "--track",     "C",      "--warp",  "1000",       "x.scn"},
                          "/default/root");
-    EXPECT_EQ(Fields(all.run), std::tuple("x.scn", "r", 12.5, 0.1, 10.0, std::optional<unsigned>(4294967295u),
-                                          "s.scn", "s.json", "k.txt", "l.log", "t.csv", "p.svg",
-                                          std::vector<std::string>{"B", "A", "C"}, 0.5));
+    EXPECT_EQ(Fields(all.run),
+              std::tuple("x.scn", "r", 12.5, 0.1, 10.0, 1000.0, std::optional<unsigned>(4294967295u), "s.scn",
+                         "s.json", "k.txt", "l.log", "t.csv", "p.svg",
+                         std::vector<std::string>{"B", "A", "C"}, 0.5));
     // Few frames bound the samples too: one a frame at most.
     EXPECT_EQ(ParseCommandLine({"run", "x", "--telemetry", "t.csv", "--for", "1e7", "--accel", "1e4",
                                 "--telemetry-interval", "0.1"},
@@ -61,8 +62,8 @@ TEST(OptionsTest, HelpListsTheRunOptions) {
         Command cmd = ParseCommandLine(args, "/root");
         EXPECT_TRUE(cmd.help);
         for (const char *word :
-             {"run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--seed", "--save", "--state",
-              "--keys", "--log", "--telemetry", "--track", "--telemetry-interval", "--plot"})
+             {"run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--warp", "--seed", "--save",
+              "--state", "--keys", "--log", "--telemetry", "--track", "--telemetry-interval", "--plot"})
             EXPECT_NE(cmd.helpText.find(word), std::string::npos) << word << " in\n" << cmd.helpText;
     }
 }
@@ -77,6 +78,7 @@ TEST(OptionsTest, BadCommandLinesAreUsageErrors) {
         {{"run", "x", "--for", "-1"}, "--for needs a number of 0 or more, not '-1'"},
         {{"run", "x", "--for", "inf"}, "--for needs a number of 0 or more, not 'inf'"},
         {{"run", "x", "--accel", "nan"}, "--accel needs a number above 0, not 'nan'"},
+        {{"run", "x", "--warp", "0"}, "--warp needs a number above 0, not '0'"},
         {{"run", "x", "--seed", "-3"}, "--seed needs a whole number from 0 to 4294967295, not '-3'"},
         {{"run", "x", "--seed", "4294967296"},
          "--seed needs a whole number from 0 to 4294967295, not '4294967296'"},

@@ -124,8 +124,8 @@ TEST_F(WorldScenarioTest, StateHasTheFixedFields) {
     std::vector<std::string> top;
     for (auto &[key, value] : state.items())
         top.push_back(key);
-    EXPECT_EQ(top,
-              (std::vector<std::string>{"simt", "mjd", "focus", "annotations", "debugString", "vessels"}));
+    EXPECT_EQ(top, (std::vector<std::string>{"simt", "mjd", "focus", "annotations", "debugString", "bodies",
+                                             "vessels"}));
     EXPECT_DOUBLE_EQ(state["simt"].get<double>(), 0.02);
     EXPECT_EQ(state["focus"], "B");
     EXPECT_EQ(state["annotations"], (nlohmann::ordered_json{"probe A ready", "probe B ready"}));
@@ -136,9 +136,11 @@ TEST_F(WorldScenarioTest, StateHasTheFixedFields) {
     std::string fields;
     for (auto &[key, value] : v.items())
         fields += key + " ";
-    EXPECT_EQ(fields, "name class emptyMass mass size pmi crossSections rotDrag cw touchdownPoints "
-                      "focusEnabled status parent rpos rvel surface propellants thrusters thrusterGroups "
-                      "meshes docks attachments visual exhausts particleStreams beacons animations lights ");
+    EXPECT_EQ(
+        fields,
+        "name class emptyMass mass size pmi crossSections rotDrag cw touchdownPoints "
+        "focusEnabled status parent rpos rvel axes angularVel surface propellants thrusters thrusterGroups "
+        "meshes docks attachments visual exhausts particleStreams beacons animations lights ");
     EXPECT_EQ(v["name"], "A");
     EXPECT_EQ(v["class"], "Test\\Probe");
     EXPECT_EQ(v["emptyMass"], 1200.0);

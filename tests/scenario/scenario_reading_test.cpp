@@ -18,8 +18,8 @@ TEST_F(ScenarioTest, FirstPassKeysAreComparedByPrefixWithoutCaseInTheirOrder) {
     EXPECT_THAT(p.OneShotEvents, ElementsAre(VesselCall(&HULLKIT::H_UNPARK)));
     // Restored updaters first, then those of the set-up in its order.
     EXPECT_EQ(p.UpdatersText(), "H_TIMER_1T_ME, H_TIMER_1T, H_MET, H_ANIM, H_VC, H_ME_WATCH, ");
-    EXPECT_DOUBLE_EQ(p.ImuYawReference.y, 1.0);
-    EXPECT_DOUBLE_EQ(p.ImuPitchReference.x, 1.0);
+    EXPECT_DOUBLE_EQ(p.ImuYawRef.y, 1.0);
+    EXPECT_DOUBLE_EQ(p.ImuPitchRef.x, 1.0);
     // A short line fills what it reaches and leaves the rest.
     EXPECT_EQ(p.FailureIndex, 1);
     EXPECT_EQ(p.FailureKind, 2);
@@ -80,8 +80,8 @@ TEST_F(ScenarioTest, ResourceLinesOfTheScenarioGoBackOutAsTheyCameIn) {
     ProbeVessel &p = Load({"RESOURCE Tanks Main 10", "RESOURCE Tanks Extra 5", "RESOURCE AeroRecords A 1"});
 
     EXPECT_DOUBLE_EQ(p.TankTable.Find("Main")->fuel, 10.0);
-    EXPECT_THAT(FrameworkLines(p),
-                ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, ", "RESOURCE Tanks Main 10", "RESOURCE Tanks Extra 5"));
+    EXPECT_THAT(FrameworkLines(p), ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, ", "RESOURCE Tanks Main 10",
+                                               "RESOURCE Tanks Extra 5"));
 }
 
 TEST_F(ScenarioTest, MalformedLinesLeaveTheDefaults) {

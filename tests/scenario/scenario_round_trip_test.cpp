@@ -51,7 +51,7 @@ TEST_F(ScenarioTest, SaveInMidFlightComesBackToTheSameStateAndText) {
     p.ToParentRot = _V(0, 1, 0);
     p.SetEnableFocus(false);
     p.AutoSwitchFocus = true;
-    p.ImuPitchReference = _V(0, 1, 0);
+    p.ImuPitchRef = _V(0, 1, 0);
     p.BallisticTarget[4] = 7.0;
 
     const std::vector<std::string> saved = FrameworkLines(p);

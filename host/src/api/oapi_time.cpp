@@ -9,7 +9,7 @@ double oapiGetSimStep() { return World::Current().simdt; }
 double oapiGetSysStep() { return World::Current().sysdt; }
 double oapiGetSysTime() { return World::Current().syst; }
 double oapiGetSimMJD() { return World::Current().Mjd(); }
-double oapiGetTimeAcceleration() { return World::Current().accel; }
+double oapiGetTimeAcceleration() { return World::Current().VisibleAccel(); }
 
 // Takes effect with the next frame, also when called from a vessel's step.
 void oapiSetTimeAcceleration(double warp) {

@@ -66,11 +66,21 @@ bool FireAttitudeThrusters(Vessel &v, const char *keys) {
     return fired;
 }
 
+// A press of a navigation mode's key switches the mode on, or off again.
+void ToggleNavmodes(Vessel &v, const char *keys, const char *before) {
+    if (!v.iface || KEYMOD_CONTROL(keys) || KEYMOD_SHIFT(keys) || KEYMOD_ALT(keys))
+        return;
+    for (const NavmodeKey &k : kNavmodeKeys)
+        if (KEYDOWN(keys, k.key) && !KEYDOWN(before, k.key))
+            v.iface->ToggleNavmode(k.mode);
+}
+
 } // namespace
 
 bool ActOnHostKeys(World &world, Vessel &v, const char *keys, const char *before, double realDt) {
     Throttle(v, keys, realDt);
     SwitchRcsMode(world, v, keys, before);
+    ToggleNavmodes(v, keys, before);
     return FireAttitudeThrusters(v, keys);
 }
 

@@ -14,9 +14,25 @@
 // levels the vessel set itself, for the current frame only. A press of
 // keypad / switches the mode between rotation and translation (from off: to
 // rotation), Ctrl+keypad / switches it off and on (to rotation).
+//
+// Navigation modes: a press of a mode's key, without modifiers, switches the
+// mode on through the vessel's ActivateNavmode, or off when it is on.
 #pragma once
 
+#include "OrbiterAPI.h"
+
 namespace hullhost {
+
+struct NavmodeKey {
+    DWORD key;
+    int mode;
+};
+
+inline constexpr NavmodeKey kNavmodeKeys[] = {
+    {OAPI_KEY_NUMPAD5, NAVMODE_KILLROT},   {OAPI_KEY_L, NAVMODE_HLEVEL},
+    {OAPI_KEY_LBRACKET, NAVMODE_PROGRADE}, {OAPI_KEY_RBRACKET, NAVMODE_RETROGRADE},
+    {OAPI_KEY_SEMICOLON, NAVMODE_NORMAL},  {OAPI_KEY_APOSTROPHE, NAVMODE_ANTINORMAL},
+    {OAPI_KEY_A, NAVMODE_HOLDALT}};
 
 class Vessel;
 class World;

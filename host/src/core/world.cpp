@@ -9,6 +9,7 @@
 #include "host_controls.h"
 #include "line_file.h"
 #include "physics/flight_model.h"
+#include "physics/navmode_pilot.h"
 #include "visual/visual_lifecycle.h"
 
 namespace hullhost {
@@ -196,6 +197,7 @@ void World::SetFocus(Vessel *v) {
 }
 
 void World::SetTimeAcceleration(double value) {
+    offer_ = 0.0;
     if (value == accel)
         return;
     accel = value;
@@ -257,6 +259,7 @@ void World::Frame(double realDt) {
     {
         CallbackScope scope(*this);
         DeliverKeys();
+        offer_ = warp > accel ? std::min(warp, accel * 10.0) : 0.0;
         // Vessels created during the walk take their first step next frame.
         const size_t count = vessels_.size();
         for (size_t i = 0; i < count && i < vessels_.size(); ++i) {
@@ -266,8 +269,15 @@ void World::Frame(double realDt) {
                 static_cast<VESSEL2 *>(v->iface)->clbkPreStep(simt, simdt, Mjd());
             }
         }
+        // No vessel set the acceleration: the raise holds from the next frame.
+        if (offer_ > 0.0)
+            SetTimeAcceleration(offer_);
     }
     FlushDeletions();
+    // The host flies the navigation modes that are on, with the attitude
+    // thrusters, for this frame only.
+    for (const auto &v : vessels_)
+        manualFiring_ = physics::FlyNavmodes(*this, *v, simdt) || manualFiring_;
     physics::Advance(*this, simdt);
     if (manualFiring_) {
         EndManualFiring(*this);

@@ -70,7 +70,17 @@ class World {
     double accel = 1.0;    // time acceleration
     double Mjd() const { return mjd0 + simt / 86400.0; }
     // Changes the time acceleration during the run; a new value is an event.
+    // A vessel's change also answers a raise that was offered to it.
     void SetTimeAcceleration(double value);
+    // The acceleration a user holds (0: none). In every frame that runs below
+    // it, a raise to ten times the acceleration (at most `warp`), as a press
+    // of the key, is offered to the vessels in their clbkPreStep: they read
+    // it as the acceleration, and it holds from the next frame on unless one
+    // of them sets another. A vessel that caps the acceleration thus keeps
+    // every later frame at its cap.
+    double warp = 0.0;
+    // The acceleration the vessels read: the offered raise while one stands.
+    double VisibleAccel() const { return offer_ > 0.0 ? offer_ : accel; }
 
     // --- Bodies --------------------------------------------------------------
     std::vector<std::unique_ptr<Body>> bodies;
@@ -163,6 +173,7 @@ class World {
     char hostKeysBefore_[256] = {};    // those of the frame before
     std::bitset<256> consumedPresses_; // keys whose press the vessel consumed, until released
     bool manualFiring_ = false;        // attitude thrusters fire from the keys in this frame
+    double offer_ = 0.0;               // the raise offered to the vessels in this frame; 0: none
     Vessel *running_ = nullptr;
 
     std::string root_;

@@ -31,6 +31,8 @@ class WorldEvents {
     virtual void OnAttached(const Vessel &parent, const Vessel &child, const std::string &point) = 0;
     virtual void OnDetached(const Vessel &parent, const Vessel &child, const std::string &point,
                             double velocity) = 0;
+    // One of a vessel's navigation modes went on or off.
+    virtual void OnNavmode(const Vessel &v, int mode, bool active) = 0;
 };
 
 } // namespace hullhost

@@ -86,4 +86,8 @@ void EventLog::OnDetached(const Vessel &parent, const Vessel &child, const std::
         {{"parent", parent.Name()}, {"child", child.Name()}, {"point", point}, {"velocity", velocity}});
 }
 
+void EventLog::OnNavmode(const Vessel &v, int mode, bool active) {
+    Add("navmode", {{"vessel", v.Name()}, {"mode", mode}, {"active", active}});
+}
+
 } // namespace hullhost::sim

@@ -14,6 +14,8 @@
 //   engine    vessel, level  the level of a vessel's main thruster group left
 //                            or reached 0, or moved by more than
 //                            kEngineStep since the last one written
+//   navmode   vessel, mode, active
+//                            a navigation mode (its number) went on or off
 //
 // The log is kept in memory and written whole at the end, also when the run
 // fails midway.
@@ -58,6 +60,7 @@ class EventLog final : public WorldEvents {
     void OnAttached(const Vessel &parent, const Vessel &child, const std::string &point) override;
     void OnDetached(const Vessel &parent, const Vessel &child, const std::string &point,
                     double velocity) override;
+    void OnNavmode(const Vessel &v, int mode, bool active) override;
 
   private:
     using Field = std::pair<const char *, nlohmann::ordered_json>;

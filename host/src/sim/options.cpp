@@ -17,7 +17,7 @@ namespace {
 // The numbers of the command line as written, checked after parsing so that
 // every bad value gets the same kind of message.
 struct NumberTexts {
-    std::string seconds, dt, accel, seed, interval;
+    std::string seconds, dt, accel, warp, seed, interval;
 };
 
 double ParseNumber(const std::string &option, const std::string &text, bool allowZero) {
@@ -52,6 +52,10 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
         ->default_str("0");
     run.add_option("--dt", n.dt, "Frame length [real s]")->type_name("SECONDS")->default_str("0.02");
     run.add_option("--accel", n.accel, "Time acceleration at the start")->type_name("A")->default_str("1");
+    run.add_option("--warp", n.warp,
+                   "Hold the time acceleration at A as a user would, raising it again after each drop;\n"
+                   "a cap that a vessel keeps still holds")
+        ->type_name("A");
     run.add_option("--seed", n.seed, "srand(N) right after each vessel's constructor, for repeatable runs")
         ->type_name("N");
     run.add_option("--save", o.savePath, "Write the scenario at the end to FILE")->type_name("FILE");
@@ -93,10 +97,14 @@ void CheckNumbers(const NumberTexts &n, RunOptions &o) {
         o.dt = ParseNumber("--dt", n.dt, false);
     if (!n.accel.empty())
         o.accel = ParseNumber("--accel", n.accel, false);
+    if (!n.warp.empty())
+        o.warp = ParseNumber("--warp", n.warp, false);
     if (!n.seed.empty())
         o.seed = ParseSeed(n.seed);
     if (!std::isfinite(o.dt * o.accel))
         throw UsageError("--dt times --accel is too large");
+    if (!std::isfinite(o.dt * o.warp))
+        throw UsageError("--dt times --warp is too large");
     if (FrameCount(o.seconds, o.dt * o.accel) > kMaxFrames)
         throw UsageError("--for " + n.seconds + " takes more than " +
                          std::to_string(static_cast<long>(kMaxFrames)) + " frames; raise --dt or --accel");
@@ -154,10 +162,14 @@ Command ParseCommandLine(const std::vector<std::string> &args, const std::string
                 "raise and lower the main thrust by 0.2 per second of real time while held (KP_MINUS\n"
                 "at 0 raises the retro thrust), Ctrl+KP_PLUS sets full main thrust, KP_MULTIPLY cuts\n"
                 "main and retro; KP_1..KP_9 fire the attitude thrusters while held, KP_DIVIDE switches\n"
-                "them between rotation and translation, Ctrl+KP_DIVIDE off and on.\n"
+                "them between rotation and translation, Ctrl+KP_DIVIDE off and on. Navigation modes, on\n"
+                "a press and off again on the next: KP_5 KILLROT, L HLEVEL, LBRACKET PROGRADE,\n"
+                "RBRACKET RETROGRADE, SEMICOLON NORMAL, APOSTROPHE ANTINORMAL, A HOLDALT; the host\n"
+                "flies them (but HOLDALT) with the attitude thrusters unless the vessel takes them over.\n"
                 "Events: one JSON object per line with \"t\" (simulation time) and \"kind\": message\n"
                 "(vessel, text), created (vessel, class), deleted (vessel), focus (vessel), key\n"
-                "(vessel, key, down), timeaccel (value), engine (vessel, level of the main group).\n"
+                "(vessel, key, down), timeaccel (value), engine (vessel, level of the main group),\n"
+                "navmode (vessel, mode number, active).\n"
                 "Telemetry: a row per vessel and sample: time, vessel, altitude, speed, apogee and\n"
                 "perigee altitude, inclination, mass, main thrust level; written at the end of the run.\n"
                 "Exit codes: 0 done, 1 run error (missing file, unknown class, module failure),\n"

@@ -13,6 +13,7 @@ struct RunOptions {
     double seconds = 0.0; // simulation time to run; 0: load and post-create only
     double dt = 0.02;     // frame length [real s]
     double accel = 1.0;   // time acceleration at the start
+    double warp = 0.0;    // acceleration held as by a user, raised again after each drop; 0: none
     std::optional<unsigned> seed;
     std::string savePath;            // empty: none
     std::string statePath;           // empty: none

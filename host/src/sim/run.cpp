@@ -173,6 +173,7 @@ void RunScenario(const RunOptions &options) {
     World world(root.string());
     world.seed = options.seed;
     world.accel = options.accel;
+    world.warp = options.warp;
     if (!out.log.empty()) {
         // One run, one log: the file starts empty.
         world.logFile.open(out.log, std::ios::trunc);

@@ -49,6 +49,10 @@ json Flight(const World &world, const Vessel &v) {
         {"parent", v.parent ? json(v.parent->Name()) : json(nullptr)},
         {"rpos", Vec(v.pos - origin)},
         {"rvel", Vec(v.vel - originVel)},
+        // The vessel's axes in the global frame: the rows are x, y and z.
+        {"axes", json::array({Vec({v.rot.m11, v.rot.m21, v.rot.m31}), Vec({v.rot.m12, v.rot.m22, v.rot.m32}),
+                              Vec({v.rot.m13, v.rot.m23, v.rot.m33})})},
+        {"angularVel", Vec(v.omega)},
     };
     // Where the vessel is over the nearest body and how it lies against its
     // horizon, from its position and orientation as they are.
@@ -137,6 +141,22 @@ json Attachments(const Vessel &v) {
     return list;
 }
 
+// The Sun, the Earth and the Moon, placed like the vessels: against the Earth.
+json Bodies(const World &world) {
+    const hullhost::Body *earth = world.Earth();
+    const VECTOR3 origin = earth ? earth->pos : VECTOR3{0, 0, 0};
+    const VECTOR3 originVel = earth ? earth->vel : VECTOR3{0, 0, 0};
+    json list = json::array();
+    for (const char *name : {"Sun", "Earth", "Moon"})
+        if (const hullhost::Body *b = world.FindBody(name))
+            list.push_back({{"name", b->Name()},
+                            {"mass", b->mass},
+                            {"radius", b->radius},
+                            {"rpos", Vec(b->pos - origin)},
+                            {"rvel", Vec(b->vel - originVel)}});
+    return list;
+}
+
 } // namespace
 
 json VesselState(const World &world, const Vessel &v) {
@@ -171,6 +191,7 @@ json WorldState(const World &world) {
         {"focus", world.focus ? json(world.focus->Name()) : json(nullptr)},
         {"annotations", annotations},
         {"debugString", std::string(world.debugString, strnlen(world.debugString, sizeof world.debugString))},
+        {"bodies", Bodies(world)},
         {"vessels", vessels},
     };
 }

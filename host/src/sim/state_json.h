@@ -8,10 +8,13 @@
 
 namespace hullhost::sim {
 
-// {"simt", "mjd", "focus", "annotations", "debugString", "vessels": [...]}
+// {"simt", "mjd", "focus", "annotations", "debugString", "bodies", "vessels"}:
+// "bodies" holds the Sun, the Earth and the Moon with "name", "mass",
+// "radius", "rpos" and "rvel" (relative to the Earth, global frame).
 nlohmann::ordered_json WorldState(const World &world);
 // One vessel: mass and shape, flight state (rpos and rvel relative to the
-// Earth, global frame), propellants, thrusters, groups, meshes, docks,
+// Earth, global frame; "axes", its x, y and z axes in the global frame;
+// "angularVel", vessel frame [rad/s]), propellants, thrusters, groups, meshes, docks,
 // attachments, and the visual parts of state_json_visuals.h.
 nlohmann::ordered_json VesselState(const World &world, const Vessel &v);
 
