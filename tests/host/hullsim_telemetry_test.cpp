@@ -2,6 +2,8 @@
 // run writes, with probes in orbit loaded from their module file.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
 #include <sstream>
 
 #include "hullsim_fixture.h"
@@ -105,6 +107,63 @@ TEST_F(HullsimTelemetryTest, TrackedVesselsInTheirOrderAndTheirChart) {
         }
     }
     EXPECT_EQ(lines, 8);
+}
+
+// The summary states the burn as the rocket equation has it, and a pass by
+// the Moon at its periapsis, however long the frames that straddle it; the
+// orbit view draws the Moon's orbit and one path per vessel.
+TEST_F(HullsimTelemetryTest, SummaryOfABurnAndAMoonPassAndTheirOrbitView) {
+    Result r = Run({"run", "orbit", "--root", Root(), "--for", "200", "--dt", "0.5", "--summary", "--track",
+                    "P", "--orbit-view", dir / "view.svg", "--track", "Q&A"});
+    ASSERT_EQ(r.code, 0) << r.err;
+    // All 250 kg at 1.667 kg/s: 150 s and 3000 ln(1450 / 1200) m/s.
+    double start, duration, deltaV, propellant;
+    const std::size_t burn = r.out.find("  1  T+");
+    ASSERT_NE(burn, std::string::npos) << r.out;
+    ASSERT_EQ(std::sscanf(r.out.c_str() + burn, "  1  T+00:00:%lf %lf s delta-v %lf m/s propellant %lf kg",
+                          &start, &duration, &deltaV, &propellant),
+              4)
+        << r.out;
+    EXPECT_EQ(start, 0.0);
+    EXPECT_NEAR(duration, 150.0, 0.5);
+    EXPECT_NEAR(deltaV, 3000.0 * std::log(1450.0 / 1200.0), 0.5);
+    EXPECT_NEAR(propellant, 250.0, 1e-6);
+    EXPECT_NE(r.out.find("Mission summary of Q&A"), std::string::npos);
+    int lines = 0;
+    std::vector<std::string> labels;
+    for (const auto &e : hosttest::ParseXml(ReadText(dir / "view.svg"))) {
+        lines += e.name == "polyline";
+        if (e.name == "text")
+            labels.push_back(e.text);
+    }
+    EXPECT_EQ(lines, 3);
+    EXPECT_EQ(labels.back(), "Q&A");
+
+    // From 5000 km on an ellipse whose periapsis is 2000 km from the Moon's
+    // centre, half an orbit (9293 s) ahead, in frames of 1000 s and of 1 s.
+    WriteText(dir / "moon.scn", "BEGIN_ENVIRONMENT\n  Date MJD 60000\nEND_ENVIRONMENT\nBEGIN_SHIPS\n"
+                                "F:Fleet\\Generic\n  STATUS Orbiting Moon\n  RPOS 5000000 0 0\n"
+                                "  RVEL 0 0 748.7\nEND\nEND_SHIPS\n");
+    std::vector<double> found;
+    for (const char *accel : {"1000", "1"}) {
+        r = Run({"run", dir / "moon.scn", "--root", HULLKIT_BUILD_ROOT, "--for", "10000", "--dt", "1",
+                 "--accel", accel, "--summary", "--track", "F"});
+        ASSERT_EQ(r.code, 0) << r.err;
+        double km, above, hours, minutes, seconds;
+        const std::size_t pass = r.out.find("Closest approach to the Moon:");
+        ASSERT_NE(pass, std::string::npos) << r.out;
+        ASSERT_EQ(
+            std::sscanf(r.out.c_str() + pass,
+                        "Closest approach to the Moon: %lf km from its centre (%lf km above its surface) at "
+                        "T+%lf:%lf:%lf",
+                        &km, &above, &hours, &minutes, &seconds),
+            5);
+        EXPECT_NEAR(km, 2000.0, 10.0) << accel;
+        EXPECT_NEAR(km - above, 1737.4, 1.0);
+        EXPECT_NEAR(hours * 3600 + minutes * 60 + seconds, 9293.0, 30.0) << accel;
+        found.push_back(km);
+    }
+    EXPECT_NEAR(found[0], found[1], 1.0);
 }
 
 TEST_F(HullsimTelemetryTest, FailedTelemetryRunsWriteNothing) {

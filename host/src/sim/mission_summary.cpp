@@ -9,6 +9,7 @@
 #include "core/body.h"
 #include "core/world.h"
 #include "physics/flight_queries.h"
+#include "physics/propulsion.h"
 
 namespace hullhost::sim {
 
@@ -112,21 +113,28 @@ void MissionSummary::ObserveOne(const World &world, Watch &w, double dt) {
     if (!v)
         return;
     const double mass = v->Mass(), tank = PropellantMass(*v);
-    const double accel = mass > 0.0 ? length(physics::VesselForces(world, *v).thrust) / mass : 0.0;
-    if (w.burning) {
-        // The thrust acceleration averaged over the frame.
+    const physics::ThrustLoad thrust =
+        physics::TotalThrust(*v, physics::VesselAirData(world, *v).air.pressure);
+    const double exhaust = thrust.massFlow > 0.0 ? length(thrust.force) / thrust.massFlow : 0.0;
+    const bool burning = MainLevel(*v) > 0.0 && thrust.massFlow > 0.0; // an empty tank ends a burn
+    if (burning && !w.burning)
+        w.burns.push_back({world.simt - dt, world.simt, 0.0, 0.0});
+    if (burning || w.burning) {
+        // The rocket equation over the frame, with the exhaust speed at its
+        // end, or at its start when the engine stopped within it. Only the
+        // propellant counts as mass burnt: a separation is no burn.
         Burn &b = w.burns.back();
-        b.deltaV += 0.5 * (w.thrustAccel + accel) * dt;
-        b.propellant += std::max(0.0, w.tankMass - tank);
+        const double burnt = std::max(0.0, w.tankMass - tank);
+        const double speed = exhaust > 0.0 ? exhaust : w.exhaust;
+        if (burnt > 0.0 && burnt < w.mass)
+            b.deltaV += speed * std::log(w.mass / (w.mass - burnt));
+        b.propellant += burnt;
         b.end = world.simt;
     }
-    const bool burning = MainLevel(*v) > 0.0;
-    if (burning && !w.burning)
-        w.burns.push_back({world.simt, world.simt, 0.0, 0.0});
     w.burning = burning;
     w.mass = mass;
     w.tankMass = tank;
-    w.thrustAccel = accel;
+    w.exhaust = exhaust;
 
     const Body *moon = world.FindBody("Moon");
     if (!moon)

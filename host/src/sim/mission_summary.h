@@ -30,16 +30,16 @@ class MissionSummary {
   private:
     struct Burn {
         double start = 0.0, end = 0.0; // simulation time [s]
-        double deltaV = 0.0;           // sum of thrust over mass [m/s]
+        double deltaV = 0.0;           // by the rocket equation, frame by frame [m/s]
         double propellant = 0.0;       // mass burnt, all tanks [kg]
     };
     struct Watch {
         std::string vessel;
         std::vector<Burn> burns;
         bool burning = false;
-        double mass = 0.0;        // at the last observation [kg]
-        double tankMass = 0.0;    // propellant then [kg]
-        double thrustAccel = 0.0; // then [m/s^2]
+        double mass = 0.0;     // at the last observation [kg]
+        double tankMass = 0.0; // propellant then [kg]
+        double exhaust = 0.0;  // effective exhaust speed then [m/s]
         // Closest approach to the Moon so far: distance from its centre [m].
         double closest = HUGE_VAL, closestTime = 0.0;
         physics::Orbit moonOrbit{}; // around the Moon, at the last observation
