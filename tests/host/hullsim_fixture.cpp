@@ -1,8 +1,10 @@
 #include "hullsim_fixture.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 #include <sys/wait.h>
 
 namespace hosttest {
@@ -17,6 +19,21 @@ std::string Quote(const std::string &s) {
 }
 
 } // namespace
+
+std::map<long, std::vector<double>> CsvRowsByTime(const std::string &path, double step) {
+    std::istringstream csv(ReadText(path));
+    std::map<long, std::vector<double>> rows;
+    std::string line;
+    std::getline(csv, line);
+    while (std::getline(csv, line)) {
+        std::vector<double> fields;
+        std::istringstream cells(line);
+        for (std::string cell; std::getline(cells, cell, ',');)
+            fields.push_back(std::atof(cell.c_str()));
+        rows[std::lround(fields.at(0) / step)] = fields;
+    }
+    return rows;
+}
 
 HullsimFixture::HullsimFixture() {
     WriteText(dir / "root/Config/Vessels/Test/Probe.cfg", "Module = Test\\Probe\n");

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,11 @@ struct Result {
     int code = -1;
     std::string out, err;
 };
+
+// The rows of a telemetry CSV below its header, each field read as a number
+// (a vessel's name reads as 0), keyed by the sample time in units of `step`
+// seconds.
+std::map<long, std::vector<double>> CsvRowsByTime(const std::string &path, double step);
 
 class HullsimFixture : public ::testing::Test {
   protected:

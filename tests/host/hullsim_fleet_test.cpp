@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -104,17 +103,7 @@ TEST_F(HullsimFleetTest, StagesFlownByKeysIgniteBurnShutDownAndRefuse) {
 
     // The burn, as the telemetry saw it, gains what the rocket equation allows
     // and raises the apogee.
-    std::ifstream csv(dir / "flight.csv");
-    std::map<int, std::vector<double>> rows;
-    std::string line;
-    std::getline(csv, line);
-    while (std::getline(csv, line)) {
-        std::vector<double> fields;
-        std::istringstream cells(line);
-        for (std::string cell; std::getline(cells, cell, ',');)
-            fields.push_back(std::atof(cell.c_str()));
-        rows[static_cast<int>(std::lround(fields[0]))] = fields;
-    }
+    const auto rows = hosttest::CsvRowsByTime(dir / "flight.csv", 1.0);
     const auto speed = [&](int t) { return rows.at(t)[3]; };
     const auto mass = [&](int t) { return rows.at(t)[7]; };
     const double dv = 3250.0 * std::log(mass(13) / mass(39));

@@ -4,7 +4,6 @@
 // reload.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -89,17 +88,9 @@ TEST_F(HullsimReleaseTest, CarrierReleasesTheStageWhichDropsItsElementsOnTheCloc
 
     // The stage's mass, sample by sample: whole drops at the separations, the
     // vent's flow between last + 5 s and last + 12 s, and nothing else.
-    std::ifstream csv(dir / "stage.csv");
     std::map<long, double> mass; // by tenths of a second
-    std::string line;
-    std::getline(csv, line);
-    while (std::getline(csv, line)) {
-        std::vector<double> fields;
-        std::istringstream cells(line);
-        for (std::string cell; std::getline(cells, cell, ',');)
-            fields.push_back(std::atof(cell.c_str()));
-        mass[std::lround(fields[0] * 10)] = fields[7];
-    }
+    for (const auto &[tenth, fields] : hosttest::CsvRowsByTime(dir / "stage.csv", 0.1))
+        mass[tenth] = fields.at(7);
     // An element weighs twice in the 0.2 s between its spawn and its drop: as
     // a carried vessel and in the stage's dry mass.
     const auto drop = [&](double t) {
