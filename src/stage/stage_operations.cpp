@@ -1,5 +1,4 @@
-// The stage's attitude loop and flight program steps.
+// The stage's attitude loop.
 #include "stage/korvan.h"
 
 void Korvan::K_FLIGHT() {}
-void Korvan::K_PGM_STEP() {}
