@@ -65,72 +65,30 @@ class BurnTest : public StageTest, public ::testing::WithParamInterface<BurnCase
 
 // The stage holds the attitude it was loaded with (its attitude loop isn't
 // started), so each case points the engine by its orientation.
+// clang-format off
 const BurnCase kBurns[] = {
-    {"Apo",
-     {kR, 0, 0},
-     {0, 0, kVc},
-     "0 0 0",
-     "BURN PROGRADE APO 400",
-     "",
+    {"Apo", {kR, 0, 0}, {0, 0, kVc}, "0 0 0", "BURN PROGRADE APO 400", "",
      [](Korvan &k) { return Apo(k) >= 400e3; }},
-    {"ApoL",
-     {kR, 0, 0},
-     {0, 0, -ApsisSpeed(kR, 6771000.0)},
-     "0 0 0",
-     "BURN RETROGRADE APOL 300",
-     "",
+    {"ApoL", {kR, 0, 0}, {0, 0, -ApsisSpeed(kR, 6771000.0)}, "0 0 0", "BURN RETROGRADE APOL 300", "",
      [](Korvan &k) { return Apo(k) <= 300e3; }},
-    {"ApoE",
-     {0, -kR, 0},
-     {0, 0, kVc},
-     "0 0 0",
-     "BURN PROGRADE APOE 400",
-     "",
+    {"ApoE", {0, -kR, 0}, {0, 0, kVc}, "0 0 0", "BURN PROGRADE APOE 400", "",
      [](Korvan &k) { return Apo(k) >= 400e3 && PerigeeArgument(k) >= PI; }},
-    {"Peri",
-     {kR, 0, 0},
-     {0, 0, ApsisSpeed(kR, 6491000.0)},
-     "0 0 0",
-     "BURN PROGRADE PERI 180",
-     "",
+    {"Peri", {kR, 0, 0}, {0, 0, ApsisSpeed(kR, 6491000.0)}, "0 0 0", "BURN PROGRADE PERI 180", "",
      [](Korvan &k) { return Peri(k) >= 180e3; }},
-    {"PeriL",
-     {kR, 0, 0},
-     {0, 0, -kVc},
-     "0 0 0",
-     "BURN RETROGRADE PERIL 150",
-     "",
+    {"PeriL", {kR, 0, 0}, {0, 0, -kVc}, "0 0 0", "BURN RETROGRADE PERIL 150", "",
      [](Korvan &k) { return Peri(k) <= 150e3; }},
-    {"Inc",
-     {kR, 0, 0},
-     {0, 0, kVc},
-     "-90 0 0",
-     "BURN NORMAL INC 22",
-     "",
+    {"Inc", {kR, 0, 0}, {0, 0, kVc}, "-90 0 0", "BURN NORMAL INC 22", "",
      [](Korvan &k) { return Elements(k).i <= 22.0 * kDeg; }},
     // Above the target latitude the burn ends 1 percent above the latitude.
-    {"IncAtLatitude",
-     {kR * std::cos(70 * kDeg), 0, kR *std::sin(70 * kDeg)},
-     {-kVc * std::sin(70 * kDeg), 0, kVc *std::cos(70 * kDeg)},
-     "-90 0 0",
-     "BURN NORMAL INC 10",
-     "",
+    {"IncAtLatitude", {kR * std::cos(70 * kDeg), 0, kR * std::sin(70 * kDeg)},
+     {-kVc * std::sin(70 * kDeg), 0, kVc * std::cos(70 * kDeg)}, "-90 0 0", "BURN NORMAL INC 10", "",
      [](Korvan &k) { return std::fabs(Latitude(k)) * 1.01 >= Elements(k).i; }},
-    {"EmptyTank",
-     {kR, 0, 0},
-     {0, 0, kVc},
-     "0 0 0",
-     "BURN",
-     "RES_MODS Tanks Main:0.001",
+    {"EmptyTank", {kR, 0, 0}, {0, 0, kVc}, "0 0 0", "BURN", "RES_MODS Tanks Main:0.001",
      [](Korvan &k) { return k.GetPropellantMass(k.MainTank) == 0.0; }},
-    {"EquatorEndsOnlyEmpty",
-     {kR, 0, 0},
-     {0, 0, kVc},
-     "0 0 0",
-     "BURN PROGRADE EQU",
-     "RES_MODS Tanks Main:0.001",
+    {"EquatorEndsOnlyEmpty", {kR, 0, 0}, {0, 0, kVc}, "0 0 0", "BURN PROGRADE EQU", "RES_MODS Tanks Main:0.001",
      [](Korvan &k) { return k.GetPropellantMass(k.MainTank) == 0.0; }},
 };
+// clang-format on
 
 TEST_P(BurnTest, EndsInTheFrameAfterItsTargetIsReached) {
     const BurnCase &c = GetParam();
@@ -181,6 +139,23 @@ TEST_F(FlightTest, ApogeeWithThePerigeeArgumentBelow180GoesOnBurning) {
     EXPECT_LT(PerigeeArgument(k), PI);
     EXPECT_FALSE(k.program->steps[0].done);
     EXPECT_EQ(GroupLevel(k, "Main"), 1.0);
+}
+
+// A target met at the start ends the burn in its first tick and cuts its
+// ullage short: no firing is spent. A BURN MOON with nothing prepared is met
+// at once.
+TEST_F(FlightTest, ABurnWhoseTargetIsMetEndsInItsFirstTickWithNoFiringSpent) {
+    Korvan &k = Load({"PGM BURN PROGRADE APO 100", "PGM BURN PROGRADE MOON", "PGM IDLE 100000"});
+    Run(1.0);
+    k.ToggleControlMode();
+    EXPECT_TRUE(k.ullageInProgress);
+    world->Frame(0.1);
+    EXPECT_TRUE(k.program->steps[0].done);
+    EXPECT_EQ(Message(k), "Main engine shutdown. 30 engine firings left.");
+    world->Frame(0.1);
+    EXPECT_TRUE(k.program->steps[1].done);
+    EXPECT_EQ(k.ignitionsUsed, 0);
+    EXPECT_EQ(GroupLevel(k, "Main"), 0.0);
 }
 
 // Toward the prepared apogee the engine runs at a tenth from 95 percent of
