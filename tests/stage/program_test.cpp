@@ -148,12 +148,15 @@ TEST_F(ProgramTest, StepsRunInOrderAndTheEndHandsBackControl) {
     EXPECT_EQ(Message(again), "Cannot switch to autopilot: flight program is not set!");
 }
 
-// Manual control stops the burn, undone; back under the autopilot the same
-// step begins again with a new ullage, at the price of a firing.
+// The separation from the carrier starts the program. Manual control stops
+// the burn, undone; back under the autopilot the same step begins again with
+// a new ullage, at the price of a firing.
 TEST_F(ProgramTest, ManualControlStopsABurnThatStartsAgainWithTheAutopilot) {
-    Korvan &k = Load({"PGM BURN PROGRADE APO 900", "PGM BURN PROGRADE APO 1000"});
+    Korvan &k = Load({"PGM BURN PROGRADE APO 900", "PGM BURN PROGRADE APO 1000"}, true);
     Run(1.0);
-    k.ToggleControlMode();
+    EXPECT_FALSE(Running(k)); // no payload aboard: the program waits at loading
+    k.OnDetached();
+    EXPECT_TRUE(Running(k));
     EXPECT_TRUE(k.ullageInProgress);
     Run(12.0, 0.5);
     EXPECT_EQ(k.ignitionsUsed, 1);
