@@ -1,6 +1,7 @@
 // The step operations that look at the orbit: when a burn has reached its
 // target, when a coast has reached its event, and the apogee of a transfer
 // to the Moon.
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -150,8 +151,9 @@ void FlightProgram::PrepareLunarTransfer() {
     k.NodeVector = crossp(_V(0, 0, 1), crossp(k.PosInMoonFrame, k.VelInMoonFrame));
     k.NodeUnit = unit(k.NodeVector);
 
-    // When the Moon gets there, each time within half its period of now.
-    double f = std::acos(k.NodeUnit.x);
+    // When the Moon gets there: both times counted from its periapsis, within
+    // half a period either side of it, so the difference may be negative.
+    double f = std::acos(std::clamp(k.NodeUnit.x, -1.0, 1.0));
     if (k.NodeUnit.y < 0.0)
         f = kTwoPi - f;
     double tn = TimeFromPeriapsis(k.MoonEcc, f, kMoonPeriod);
