@@ -636,6 +636,22 @@ class HULLKIT : public VESSEL3 {
     // The size before the size toggle shrank the vessel; 0 when not shrunk.
     double SizeBeforeToggle = 0.0;
 
+    // The orbit's apsides around the Earth [m, radii], as the flight program
+    // last fetched them.
+    double ApDist = 0.0, PeDist = 0.0;
+    // The lunar transfer's working data, written only by its preparation.
+    // MoonFrame's rows are the Moon's orbit axes (x to its periapsis, z along
+    // its angular momentum); the vectors below are in that frame. MoonNodeTime
+    // [s] is what is left of the Moon's time to the node once the vessel
+    // stands there; MoonNodeRadius [m] is the Moon's radius at the node.
+    double MuEarth = 0.0, MuEarthMoon = 0.0;
+    MATRIX3 MoonFrame{1, 0, 0, 0, 1, 0, 0, 0, 1};
+    double MoonEcc = 0.0, MoonSemiLatus = 0.0, MoonTrueAnomaly = 0.0;
+    double MoonNodeTime = 0.0, MoonNodeRadius = 0.0;
+    VECTOR3 PosInMoonFrame{0, 0, 0}, VelInMoonFrame{0, 0, 0};
+    double RadiusNow = 0.0, SpeedNow = 0.0;
+    VECTOR3 NodeVector{0, 0, 0}, NodeUnit{0, 0, 0};
+
     // Levels of the contrail, hot wake and dust streams. The host reads them
     // through the pointers it was given, so they stay members of the vessel.
     double ContrailLevel, HeatContrailLevel, DustLevel;

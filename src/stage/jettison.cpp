@@ -110,6 +110,6 @@ void Korvan::K_VENT_STOP() { SetGroup(*this, "Vent", 0.0); }
 void Korvan::OnDetached() {
     HULLKIT::OnDetached();
     AddOneShot(5.0, static_cast<VesselCall>(&Korvan::K_DROP_FAIRING_START));
-    // The flight program starts here too, once the stage has one.
+    program->StartNextStep();
     AddUpdater(static_cast<VesselCall>(&Korvan::K_FLIGHT));
 }

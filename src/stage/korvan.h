@@ -12,7 +12,8 @@
 //
 // Its scenario lines: IGNITE "<ullage running 0|1> <ignitions used>",
 // OPERATE <ullage seconds left>, MAIN_RUN 1, IGN_FAIL <index of the first
-// ignition that fails>, PREMA_SEP 1.
+// ignition that fails>, PREMA_SEP 1; then the flight program's AP_TIMER,
+// AP_PARAMS and PGM lines (see FlightProgram).
 #pragma once
 
 #include <cstdint>
@@ -32,12 +33,16 @@ class Korvan : public HULLKIT {
     bool clbkDrawHUD(int mode, const HUDPAINTSPEC *hps, oapi::Sketchpad *skp) override;
     void ParseScenarioLine(char *line, void *status) override;
     void ApplyConfiguration() override;
+    void ParseScenarioLineLate(char *line) override;
     void InitDefaults() override;
+    void OnAttached() override;
     void OnControllerMoved(ANIM_CTRL_REC *controller) override;
     intptr_t OnPeerMessage(OBJHANDLE sender, int code, intptr_t argument) override;
     void OnFocusLost(OBJHANDLE other) override;
     void OnFailure() override;
     void PrepareControlToggle() override;
+    void OnManualControl() override;
+    void OnAutopilotEngaged() override;
     void OnAutopilotThrottle() override;
     void OnDetached() override;
     void JettisonNext() override;

@@ -51,7 +51,9 @@ intptr_t Korvan::OnPeerMessage(OBJHANDLE sender, int code, intptr_t argument) {
         return 1;
     case 692:
         // The program's JETT step names the payload and its separation.
-        if (const auto *step = reinterpret_cast<const ProgramStep *>(argument))
+        // A step whose name matched no child separates nothing.
+        if (const auto *step = reinterpret_cast<const ProgramStep *>(argument);
+            step && !step->childName.empty())
             if (CHILD_REC *rec = ChildTable.Find(step->childName))
                 SeparateAndVent(*rec, SeparationTable.Find(step->sepName));
         return 1;

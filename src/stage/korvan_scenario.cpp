@@ -1,5 +1,5 @@
 // The stage's lines of the scenario: its engine state, read in the first pass
-// and written after the framework's lines.
+// and written after the framework's lines, then the flight program's.
 #include <cstdio>
 
 #include "scenario/scenario_keys.h"
@@ -39,4 +39,5 @@ void Korvan::clbkSaveState(FILEHANDLE scn) {
         oapiWriteScenario_int(scn, "IGN_FAIL", ignFailAt);
     if (prematureSep)
         oapiWriteScenario_int(scn, "PREMA_SEP", 1);
+    program->Save(scn);
 }

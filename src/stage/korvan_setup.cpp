@@ -4,7 +4,7 @@
 
 void Korvan::InitDefaults() {
     HULLKIT::InitDefaults();
-    program = std::make_unique<FlightProgram>();
+    program = std::make_unique<FlightProgram>(this);
     prematureSep = fairingDropped = sozDropped = ullageInProgress = false;
     ignitionsUsed = 0;
     ullageLeft = 0.0;
@@ -36,6 +36,12 @@ void Korvan::ApplyConfiguration() {
     if (!sozDropped)
         DryMass += CfgNumber("EmptySOZMass");
     UpdateCompositeMass();
+
+    // A stage loaded free-flying with its payload aboard goes on with its program.
+    const CHILD_REC *payload = ChildTable.Find("Payload1");
+    const bool onCarrier = Attached || (ToParentAttachment && GetAttachmentStatus(ToParentAttachment));
+    if (!onCarrier && payload && !payload->AttachedName.empty() && !program->Empty())
+        program->StartNextStep();
 }
 
 double Korvan::CfgNumber(const char *key) {

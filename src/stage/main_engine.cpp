@@ -75,7 +75,7 @@ void Korvan::Ignite() {
     }
     SetThrusterGroupLevel(groupMain, 1.0);
     // The last burn of the program leaves the SOZ behind: no firing follows.
-    if (AutopilotActive && program->UndoneBurns() == 1)
+    if (AutopilotActive && program->CountBurnsLeft() == 1)
         DropSoz();
     if (Attached && ParentHullkit)
         ParentHullkit->OnPeerMessage(GetHandle(), 19, 0);
@@ -125,7 +125,7 @@ void Korvan::OnFailure() {
         prematureSep = FailureKind == 5;
         if (ignFailAt == 1000) {
             // Two draws, so that the failure tends to come early.
-            const int burns = program->UndoneBurns();
+            const int burns = program->CountBurnsLeft();
             const double r1 = Rand15() / 32767.0, r2 = Rand15() / 32767.0;
             const int a = static_cast<int>(r1 * burns);
             ignFailAt = static_cast<int32_t>(r2 * a);

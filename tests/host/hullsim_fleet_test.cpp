@@ -111,4 +111,44 @@ TEST_F(HullsimFleetTest, StagesFlownByKeysIgniteBurnShutDownAndRefuse) {
     EXPECT_GT(rows.at(45)[4], rows.at(10)[4] + 100e3);
 }
 
+// M hands the stage to its flight program: it turns, burns to its apogee
+// target, leaving the SOZ behind at the ignition of its last burn, and
+// coasts; the saved scenario holds what is left of the program.
+TEST_F(HullsimFleetTest, FlightProgramBurnsToItsTargetAndSavesTheRest) {
+    WriteText(dir / "program.scn",
+              "BEGIN_ENVIRONMENT\n  Date MJD 61000.5\nEND_ENVIRONMENT\nBEGIN_FOCUS\n  Ship K\nEND_FOCUS\n"
+              "BEGIN_SHIPS\nControl:Fleet\\Controller\n  STATUS Landed Earth\n  POS 0 0\nEND\n" +
+                  Stage("K", "  HK_FLAGS 0 0\n  PGM ATT PROGRADE 5\n  PGM BURN PROGRADE APO 400\n"
+                             "  PGM IDLE 600\n") +
+                  "END_SHIPS\n");
+    WriteText(dir / "m.keys", "1 M\n");
+    const hosttest::Result r = Run({"run", dir / "program.scn", "--root", HULLKIT_BUILD_ROOT, "--for", "60",
+                                    "--dt", "0.1", "--keys", dir / "m.keys", "--events", dir / "events.jsonl",
+                                    "--save", dir / "out.scn", "--state", dir / "state.json"});
+    ASSERT_EQ(r.code, 0) << r.err;
+    std::vector<std::string> messages;
+    std::vector<double> engine;
+    std::istringstream events(ReadText(dir / "events.jsonl"));
+    for (std::string line; std::getline(events, line);) {
+        const auto e = nlohmann::json::parse(line);
+        if (e["kind"] == "message" && e["text"] != "")
+            messages.push_back(e["text"]);
+        if (e["kind"] == "engine")
+            engine.push_back(e["t"]);
+    }
+    EXPECT_EQ(messages,
+              (std::vector<std::string>{"Manual controls disabled. To enable, use M key",
+                                        "Ullage started. Ignition in 10 sec", "Main engine shutdown"}));
+    // Lit after 5 s of holding and 10 s of ullage; out at 400 km.
+    ASSERT_EQ(engine.size(), 2u);
+    EXPECT_NEAR(engine[0], 16.2, 0.15);
+    const auto state = nlohmann::json::parse(ReadText(dir / "state.json"));
+    EXPECT_EQ(state["debugString"].get<std::string>().rfind("Coasting: ", 0), 0u) << state["debugString"];
+    const std::string saved = ReadText(dir / "out.scn");
+    EXPECT_EQ(saved.find("PGM ATT"), std::string::npos) << saved;
+    EXPECT_EQ(saved.find("PGM BURN"), std::string::npos) << saved;
+    EXPECT_NE(saved.find("PGM IDLE 600"), std::string::npos) << saved;
+    EXPECT_NE(saved.find("AP_TIMER 5"), std::string::npos) << saved;
+}
+
 } // namespace
