@@ -10,6 +10,7 @@
 #include "physics/aerodynamics.h"
 #include "physics/ephemeris.h"
 #include "physics/flight_model.h"
+#include "physics/free_rotation.h"
 #include "physics/gravity.h"
 #include "physics/ground_contact.h"
 #include "physics/landed.h"
@@ -29,6 +30,7 @@ constexpr double kTurnPerStep = 0.05;     // [rad] of rotation per step
 constexpr double kContactRange = 1000.0;  // [m] below which the touchdown points are watched
 constexpr double kRestSpeed = 0.05;       // [m/s] against the ground, to count as landed
 constexpr double kRestRate = 0.005;       // [rad/s] against the ground's rotation
+constexpr double kFreeTurnPressure = 1.0; // [Pa] of dynamic pressure below which the air can't turn a vessel
 
 struct ModuleForces {
     VECTOR3 force{0, 0, 0};
@@ -60,8 +62,10 @@ double AeroStep(const Vessel &v, const AirData &air, double mass, const VECTOR3 
     return std::min(h, 0.2 / frequency);
 }
 
+// `turning`: the rotation is integrated with the motion, so the step must
+// follow it too.
 double ChooseStep(const Vessel &v, const Body *ref, const RigidState &s, const StepLoads &loads,
-                  const AirData &air, const VECTOR3 &aeroForce, double gap) {
+                  const AirData &air, const VECTOR3 &aeroForce, double gap, bool turning) {
     double h = kMaxStep;
     if (ref) {
         const double r = length(s.r);
@@ -72,7 +76,7 @@ double ChooseStep(const Vessel &v, const Body *ref, const RigidState &s, const S
     }
     h = std::min(h, AeroStep(v, air, loads.mass, aeroForce));
     const double rate = length(s.w);
-    if (rate > 0.0) {
+    if (turning && rate > 0.0) {
         h = std::min(h, kTurnPerStep / rate);
     }
     if (loads.contact && ref) {
@@ -145,7 +149,15 @@ void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
         loads.contact = gap < kContactRange;
         const AeroLoad aero = loads.air ? AerodynamicLoad(v, air) : AeroLoad{};
 
-        double h = std::min(ChooseStep(v, ref, s, loads, air, aero.lift + aero.drag, gap), simdt - tau);
+        // Without thrust, forces of the module or the ground, and in air too
+        // thin to turn it, the motion doesn't care how the vessel turns, and
+        // the turn is integrated on its own: a spinning piece then costs no
+        // more steps than a still one.
+        const bool torqueFree = !loads.contact && air.dynPressure < kFreeTurnPressure &&
+                                loads.torque.x == 0.0 && loads.torque.y == 0.0 && loads.torque.z == 0.0 &&
+                                loads.force.x == 0.0 && loads.force.y == 0.0 && loads.force.z == 0.0;
+        double h =
+            std::min(ChooseStep(v, ref, s, loads, air, aero.lift + aero.drag, gap, !torqueFree), simdt - tau);
         if (thrust.timeToEmpty < h) {
             h = thrust.timeToEmpty; // the burn ends within the step: end the step with it
         }
@@ -155,8 +167,15 @@ void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
         const RigidRate k2 = Derivative(v, ref, mid, loads, 0.5 * h, Advanced(s, k1, 0.5 * h));
         const RigidRate k3 = Derivative(v, ref, mid, loads, 0.5 * h, Advanced(s, k2, 0.5 * h));
         const RigidRate k4 = Derivative(v, ref, end, loads, h, Advanced(s, k3, h));
+        const RigidState before = s;
         s = Advanced(s, Combined(k1, k2, k3, k4), h);
-        s.R = Orthonormalised(s.R);
+        if (torqueFree) {
+            s.R = before.R;
+            s.w = before.w;
+            RotateFree(s.R, s.w, PrincipalMoments(v, loads.mass), h);
+        } else {
+            s.R = Orthonormalised(s.R);
+        }
         BurnPropellant(v, h);
         tau = simdt - tau - h < kMinStep ? simdt : tau + h;
         start = end;

@@ -19,6 +19,11 @@ VECTOR3 RotationDragTorque(const Vessel &v, const VECTOR3 &w, double density) {
     return {v.rotDrag.x * w.x * f, v.rotDrag.y * w.y * f, v.rotDrag.z * w.z * f};
 }
 
+VECTOR3 PrincipalMoments(const Vessel &v, double mass) {
+    const double m = std::max(mass, 1e-9);
+    return {std::max(v.pmi.x * m, 1e-9), std::max(v.pmi.y * m, 1e-9), std::max(v.pmi.z * m, 1e-9)};
+}
+
 RigidRate Derivative(const Vessel &v, const Body *ref, const BodySnapshot &snap, const StepLoads &loads,
                      double tau, const RigidState &s) {
     const double mass = loads.mass - loads.massFlow * tau;
@@ -45,9 +50,7 @@ RigidRate Derivative(const Vessel &v, const Body *ref, const BodySnapshot &snap,
         d.dv += (mul(s.R, force) + globalForce) / mass;
     }
     d.dR = mul(s.R, RateMatrix(s.w));
-    const double m = std::max(mass, 1e-9);
-    const VECTOR3 inertia{std::max(v.pmi.x * m, 1e-9), std::max(v.pmi.y * m, 1e-9),
-                          std::max(v.pmi.z * m, 1e-9)};
+    const VECTOR3 inertia = PrincipalMoments(v, mass);
     const VECTOR3 momentum{inertia.x * s.w.x, inertia.y * s.w.y, inertia.z * s.w.z};
     const VECTOR3 gyro = crossp(s.w, momentum);
     d.dw = {(torque.x + gyro.x) / inertia.x, (torque.y + gyro.y) / inertia.y,

@@ -28,6 +28,9 @@ struct RigidRate {
 
 // What stays fixed over one integration step: thrust and the module's forces
 // (vessel frame), the mass at the start and the rate at which it falls.
+// The moments of inertia along the vessel's axes at `mass`, each above 0.
+VECTOR3 PrincipalMoments(const Vessel &v, double mass);
+
 struct StepLoads {
     VECTOR3 force{0, 0, 0};
     VECTOR3 torque{0, 0, 0};
