@@ -10,7 +10,7 @@ namespace hullhost::physics {
 namespace {
 
 // The most a substep may change the rate, against the rate itself.
-constexpr double kRateChangePerStep = 0.02;
+constexpr double kRateChangePerStep = 0.1;
 
 // Euler's equations without torque, as the flight model's derivative has them.
 VECTOR3 RateChange(const VECTOR3 &w, const VECTOR3 &inertia) {
@@ -48,11 +48,12 @@ void RotateFree(MATRIX3 &R, VECTOR3 &w, const VECTOR3 &inertia, double h) {
         const VECTOR3 k3 = RateChange(w + k2 * (0.5 * step), inertia);
         const VECTOR3 k4 = RateChange(w + k3 * step, inertia);
         const VECTOR3 next = w + (k1 + (k2 + k3) * 2.0 + k4) * (step / 6.0);
-        R = Orthonormalised(mul(R, Turn((w + next) * 0.5, step)));
+        R = mul(R, Turn((w + next) * 0.5, step));
         const VECTOR3 body = tmul(R, momentum);
         w = {body.x / inertia.x, body.y / inertia.y, body.z / inertia.z};
         left = left - step < 1e-12 * h ? 0.0 : left - step;
     }
+    R = Orthonormalised(R);
 }
 
 } // namespace hullhost::physics

@@ -18,10 +18,51 @@ BodySnapshot SnapshotAt(const World &world, double t) {
         VECTOR3 vel;
         s.body[s.count] = b.get();
         BodyStateAt(*b, t, s.pos[s.count], vel);
-        s.north[s.count] = Column(EquatorialFrame(*b), 1);
+        s.north[s.count] = Column(b->equatorial, 1);
         ++s.count;
     }
     return s;
+}
+
+FrameSnapshots::FrameSnapshots(const World &world, double t0, double t1) : world_(world), t0_(t0), t1_(t1) {
+    for (const auto &b : world.bodies) {
+        if (start_.count == kMaxBodies)
+            break;
+        const int i = start_.count++;
+        end_.count = start_.count;
+        start_.body[i] = end_.body[i] = b.get();
+        start_.north[i] = end_.north[i] = Column(b->equatorial, 1);
+        BodyStateAt(*b, t0, start_.pos[i], startVel_[i]);
+        BodyStateAt(*b, t1, end_.pos[i], endVel_[i]);
+    }
+}
+
+BodySnapshot FrameSnapshots::At(double t) const {
+    const double h = t1_ - t0_;
+    if (t == t0_)
+        return start_;
+    if (t == t1_)
+        return end_;
+    if (!(h > 0.0) || h > kMaxSpan)
+        return SnapshotAt(world_, t);
+    // Cubic Hermite interpolation between the two ends.
+    const double s = (t - t0_) / h, s2 = s * s, s3 = s2 * s;
+    const double p0 = 2 * s3 - 3 * s2 + 1, v0 = (s3 - 2 * s2 + s) * h, p1 = -2 * s3 + 3 * s2,
+                 v1 = (s3 - s2) * h;
+    BodySnapshot snap = start_;
+    for (int i = 0; i < snap.count; ++i)
+        snap.pos[i] = start_.pos[i] * p0 + startVel_[i] * v0 + end_.pos[i] * p1 + endVel_[i] * v1;
+    return snap;
+}
+
+void FrameSnapshots::EndState(const Body &body, VECTOR3 &pos, VECTOR3 &vel) const {
+    for (int i = 0; i < end_.count; ++i)
+        if (end_.body[i] == &body) {
+            pos = end_.pos[i];
+            vel = endVel_[i];
+            return;
+        }
+    BodyStateAt(body, t1_, pos, vel);
 }
 
 BodySnapshot CurrentSnapshot(const World &world) {

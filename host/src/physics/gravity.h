@@ -24,6 +24,27 @@ struct BodySnapshot {
 };
 
 BodySnapshot SnapshotAt(const World &world, double t);
+
+// The bodies' places within one frame, from t0 to t1. The ephemeris is
+// solved at both ends only; in between, each body follows the cubic that
+// matches its place and velocity at both ends, whose error over a frame of
+// up to kMaxSpan is far below a millimetre for the Moon's and the planets'
+// motion. A longer frame is solved exactly at every moment asked for.
+class FrameSnapshots {
+  public:
+    FrameSnapshots(const World &world, double t0, double t1);
+    BodySnapshot At(double t) const;
+    // A body's exact state at t1.
+    void EndState(const Body &body, VECTOR3 &pos, VECTOR3 &vel) const;
+
+    static constexpr double kMaxSpan = 3600.0; // [s]
+
+  private:
+    const World &world_;
+    double t0_, t1_;
+    BodySnapshot start_, end_;
+    std::array<VECTOR3, kMaxBodies> startVel_{}, endVel_{};
+};
 // The bodies where they stand now.
 BodySnapshot CurrentSnapshot(const World &world);
 

@@ -125,7 +125,7 @@ bool AtRest(const Vessel &v, const Body &ref, const RigidState &s) {
 
 // Integrates a free vessel from t0 over simdt. Returns early, landed, if the
 // vessel comes to rest on the ground.
-void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
+void IntegrateFree(World &world, const FrameSnapshots &snapshots, Vessel &v, double t0, double simdt) {
     const Body *ref = world.bodies.empty() ? nullptr : DominantBody(world, v.pos);
     v.ref = const_cast<Body *>(ref);
     RigidState s{v.pos, v.vel, v.rot, v.omega};
@@ -134,7 +134,7 @@ void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
         s.v -= ref->vel;
     }
     const ModuleForces module = SumModuleForces(v);
-    BodySnapshot start = SnapshotAt(world, t0);
+    BodySnapshot start = snapshots.At(t0);
     double tau = 0.0;
     while (tau < simdt) {
         const AirData air = AirDataAt(ref, s.r, s.v, s.R);
@@ -161,8 +161,8 @@ void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
         if (thrust.timeToEmpty < h) {
             h = thrust.timeToEmpty; // the burn ends within the step: end the step with it
         }
-        const BodySnapshot mid = SnapshotAt(world, t0 + tau + 0.5 * h);
-        const BodySnapshot end = SnapshotAt(world, t0 + tau + h);
+        const BodySnapshot mid = snapshots.At(t0 + tau + 0.5 * h);
+        const BodySnapshot end = snapshots.At(t0 + tau + h);
         const RigidRate k1 = Derivative(v, ref, start, loads, 0.0, s);
         const RigidRate k2 = Derivative(v, ref, mid, loads, 0.5 * h, Advanced(s, k1, 0.5 * h));
         const RigidRate k3 = Derivative(v, ref, mid, loads, 0.5 * h, Advanced(s, k2, 0.5 * h));
@@ -187,7 +187,7 @@ void IntegrateFree(World &world, Vessel &v, double t0, double simdt) {
     }
     VECTOR3 refPos{0, 0, 0}, refVel{0, 0, 0};
     if (ref) {
-        BodyStateAt(*ref, t0 + simdt, refPos, refVel);
+        snapshots.EndState(*ref, refPos, refVel);
     }
     v.pos = refPos + s.r;
     v.vel = refVel + s.v;
@@ -219,6 +219,7 @@ void PlaceChain(Vessel &v, int depth) {
 void Advance(World &world, double simdt) {
     const double t0 = EphemerisTime(world, -simdt);
     const double t1 = EphemerisTime(world);
+    const FrameSnapshots snapshots(world, t0, t1);
     for (const auto &vp : world.Vessels()) {
         Vessel &v = *vp;
         if (simdt <= 0.0) {
@@ -234,7 +235,7 @@ void Advance(World &world, double simdt) {
             continue;
         }
         v.landed = false;
-        IntegrateFree(world, v, t0, simdt);
+        IntegrateFree(world, snapshots, v, t0, simdt);
     }
     PlaceBodies(world, t1);
     for (const auto &vp : world.Vessels()) {
