@@ -6,6 +6,7 @@
 namespace {
 
 constexpr double kStillRate = 0.1 * 0.017453292519943295; // [rad/s]
+constexpr double kCarryingAccel = 10.0;
 
 const NamedCall kCarrierUpdaters[] = {
     {"C_STILL_WATCH", static_cast<VesselCall>(&Carrier::C_STILL_WATCH)},
@@ -28,12 +29,22 @@ const bool kRegistered = (HULLKIT::RegisterStageTables(kCarrierUpdaters, {}), tr
 
 Carrier::Carrier(OBJHANDLE hVessel, int flightModel) : HULLKIT(hVessel, flightModel) { (void)kRegistered; }
 
+void Carrier::ApplyConfiguration() {
+    HULLKIT::ApplyConfiguration();
+    const CHILD_REC *stage = ChildTable.Find("Stage");
+    if (stage && !stage->AttachedName.empty())
+        MaxTimeAccel = kCarryingAccel;
+}
+
 TimedActionTable Carrier::TimedActions() const { return kTimed; }
 ConditionalActionTable Carrier::ConditionalActions() const { return kConditional; }
 
 void Carrier::ReleaseStage() {
-    if (CHILD_REC *stage = ChildTable.Find("Stage"))
-        SeparateChild(*stage, SeparationTable.Find("sepStage"), false, true, false, true);
+    CHILD_REC *stage = ChildTable.Find("Stage");
+    if (!stage || stage->AttachedName.empty())
+        return;
+    SeparateChild(*stage, SeparationTable.Find("sepStage"), false, true, false, true);
+    MaxTimeAccel = 1000000.0; // the framework's own cap
 }
 
 void Carrier::C_STILL_WATCH() {

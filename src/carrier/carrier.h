@@ -11,6 +11,9 @@
 //                       `CONDITIONAL_SEQUENCE ReleaseStill`
 // Everything else (mass, look, thrusters, points) is the framework's
 // configuration. A release without a stage on the point does nothing.
+// While it carries a stage the carrier holds the time acceleration at 10x at
+// most, so that the release, and the stage's drops that follow it, happen
+// on their time even when the user asks for more.
 #pragma once
 
 #include "frame/hullkit.h"
@@ -19,10 +22,12 @@ class Carrier : public HULLKIT {
   public:
     Carrier(OBJHANDLE hVessel, int flightModel);
 
+    void ApplyConfiguration() override;
     TimedActionTable TimedActions() const override;
     ConditionalActionTable ConditionalActions() const override;
 
-    // Sends the stage off its point under `sepStage`; the focus follows it.
+    // Sends the stage off its point under `sepStage`; the focus follows it,
+    // and the time acceleration is free again.
     void ReleaseStage();
     // The watch of RELEASE_WHEN_STILL: raises `Still` once the carrier has
     // stopped turning. Saved under its name while it runs.

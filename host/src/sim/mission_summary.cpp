@@ -22,6 +22,14 @@ double PropellantMass(const Vessel &v) {
     return sum;
 }
 
+// The propellant in the tank that feeds the main engine.
+double MainTankMass(const Vessel &v) {
+    const ThrusterGroup *main = v.GroupOfType(THGROUP_MAIN);
+    if (!main || main->thrusters.empty() || !main->thrusters.front()->propellant)
+        return 0.0;
+    return main->thrusters.front()->propellant->mass;
+}
+
 double MainLevel(const Vessel &v) {
     const ThrusterGroup *main = v.GroupOfType(THGROUP_MAIN);
     return main ? v.GroupLevel(*main) : 0.0;
@@ -130,7 +138,23 @@ void MissionSummary::ObserveOne(const World &world, Watch &w, double dt) {
             b.deltaV += speed * std::log(w.mass / (w.mass - burnt));
         b.propellant += burnt;
         b.end = world.simt;
+        if (const Body *earth = world.Earth()) {
+            const physics::Orbit o = physics::VesselOrbit(*v, *earth, FRAME_EQU);
+            b.perigee = o.prm.PeD - earth->radius;
+            b.apogee = o.el.e < 1.0 ? o.prm.ApD - earth->radius : -1.0;
+        }
     }
+    // Propellant that leaves the main engine's tank while the engine is off.
+    const double mainTank = MainTankMass(*v);
+    const bool venting = !burning && !w.burning && mainTank < w.mainTank;
+    if (venting && !w.venting)
+        w.vents.push_back({world.simt - dt, world.simt, 0.0});
+    if (venting) {
+        w.vents.back().mass += w.mainTank - mainTank;
+        w.vents.back().end = world.simt;
+    }
+    w.venting = venting;
+    w.mainTank = mainTank;
     w.burning = burning;
     w.mass = mass;
     w.tankMass = tank;
@@ -165,9 +189,14 @@ std::string MissionSummary::Text(const World &world, const std::string &events) 
             out += "  none\n";
         for (std::size_t i = 0; i < w.burns.size(); ++i) {
             const Burn &b = w.burns[i];
-            out += Format("  %zu  %s  %8.1f s  delta-v %8.1f m/s  propellant %8.1f kg\n", i + 1,
+            out += Format("  %zu  %s  %8.1f s  delta-v %8.1f m/s  propellant %8.1f kg  ", i + 1,
                           Clock(b.start).c_str(), b.end - b.start, b.deltaV, b.propellant);
+            out += b.apogee < 0.0 ? Format("escape, perigee %.0f km\n", b.perigee / 1e3)
+                                  : Format("orbit %.0f x %.0f km\n", b.perigee / 1e3, b.apogee / 1e3);
         }
+        for (const Vent &vent : w.vents)
+            out += Format("Vented %.1f kg of main propellant from %s for %.1f s\n", vent.mass,
+                          Clock(vent.start).c_str(), vent.end - vent.start);
         const Vessel *v = world.FindVessel(w.vessel);
         if (v)
             out += OrbitLine(world, *v);

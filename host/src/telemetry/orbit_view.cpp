@@ -91,10 +91,12 @@ void WriteOrbitView(std::ostream &out, const std::vector<TelemetrySeries> &serie
                           bool below) {
         out << "<circle cx=\"" << x(p) << "\" cy=\"" << y(p) << "\" r=\""
             << Number(std::max(radius * scale, 3.0)) << "\" fill=\"" << colour << "\"/>\n";
+        // Labels stand on the side toward the middle, so that they stay inside.
+        const bool right = plane.U(p) <= 0.0;
         if (!label.empty())
-            out << "<text x=\"" << Number(kSize / 2 + plane.U(p) * scale + 8) << "\" y=\""
-                << Number(kSize / 2 - plane.W(p) * scale + (below ? 18 : -8)) << "\" font-size=\"12\">"
-                << EscapeXml(label) << "</text>\n";
+            out << "<text x=\"" << Number(kSize / 2 + plane.U(p) * scale + (right ? 8 : -8)) << "\" y=\""
+                << Number(kSize / 2 - plane.W(p) * scale + (below ? 18 : -8)) << "\" text-anchor=\""
+                << (right ? "start" : "end") << "\" font-size=\"12\">" << EscapeXml(label) << "</text>\n";
     };
 
     const double height = kSize + kLegend * static_cast<double>(series.size() + 1);
@@ -107,6 +109,20 @@ void WriteOrbitView(std::ostream &out, const std::vector<TelemetrySeries> &serie
     disc({0, 0, 0}, earth.radius, "#3a6fb0", "Earth", false);
     disc(MoonFromEarth(earth, moon, t0), moon.radius, "#bbbbbb", "Moon at start", true);
     disc(MoonFromEarth(earth, moon, t1), moon.radius, "#666666", "Moon at end", false);
+    // The Moon where the first vessel passed nearest to it, among the samples.
+    if (!series.empty() && !series.front().samples.empty()) {
+        const TelemetrySample *nearest = nullptr;
+        double best = HUGE_VAL;
+        for (const TelemetrySample &p : series.front().samples) {
+            const double d = length(p.earthPos - MoonFromEarth(earth, moon, p.ephemerisTime));
+            if (d < best) {
+                best = d;
+                nearest = &p;
+            }
+        }
+        disc(MoonFromEarth(earth, moon, nearest->ephemerisTime), moon.radius, "#444444",
+             "Moon nearest to " + series.front().vessel, true);
+    }
     for (std::size_t i = 0; i < series.size(); ++i) {
         std::vector<VECTOR3> path;
         for (const TelemetrySample &p : series[i].samples)

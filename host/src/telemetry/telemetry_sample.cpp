@@ -12,7 +12,6 @@ namespace hullhost::telemetry {
 TelemetrySample SampleVessel(const World &world, const Vessel &v) {
     TelemetrySample s;
     s.time = world.simt;
-    s.altitude = physics::VesselAltitude(world, v);
     s.mass = v.Mass();
     s.ephemerisTime = physics::EphemerisTime(world);
     if (const Body *earth = world.Earth())
@@ -21,12 +20,16 @@ TelemetrySample SampleVessel(const World &world, const Vessel &v) {
         s.mainLevel = v.GroupLevel(*main);
     }
     if (const Body *ref = physics::GravityRef(world, v)) {
+        // Told against the body whose sphere of influence holds the vessel:
+        // on the way to the Moon, the Earth until the Moon takes over.
+        s.altitude = length(v.pos - ref->pos) - ref->radius;
         s.speed = length(v.vel - ref->vel);
         const physics::Orbit o = physics::VesselOrbit(v, *ref, FRAME_EQU);
         s.perigeeAltitude = o.prm.PeD - ref->radius;
         s.apogeeAltitude = o.el.e < 1.0 ? o.prm.ApD - ref->radius : 0.0;
         s.inclination = o.el.i * DEG;
     } else {
+        s.altitude = physics::VesselAltitude(world, v);
         s.speed = length(v.vel);
     }
     return s;

@@ -14,7 +14,7 @@ namespace hullhost::telemetry {
 
 struct TelemetrySample {
     double time = 0.0;            // simulation time [s]
-    double altitude = 0.0;        // above the mean radius of the nearest body [m]
+    double altitude = 0.0;        // above the mean radius of the body whose sphere of influence holds it [m]
     double speed = 0.0;           // relative to the reference body [m/s]
     double apogeeAltitude = 0.0;  // of the osculating orbit [m]; 0 on an escape orbit
     double perigeeAltitude = 0.0; // [m]
