@@ -63,6 +63,10 @@ void HULLKIT::ApplyConfiguration() {
     AddLevelStreams();
     if (CgOffset.x != 0.0 || CgOffset.y != 0.0 || CgOffset.z != 0.0)
         ShiftCG(CgOffset);
+    if (SpotlightSetTable.Count() > 0) {
+        AddOneShot(2.0, &HULLKIT::H_CHK_SPOTLIGHTS);
+        AddMinuteEvent(&HULLKIT::H_CHK_SPOTLIGHTS);
+    }
     ReplayScenarioLines();
     SetEnableFocus(FocusEnabled);
     FindMainTank();

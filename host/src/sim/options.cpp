@@ -88,6 +88,9 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
     run.add_option("--events", o.eventsPath,
                    "Write the run's events to FILE as JSON Lines, also when the run fails midway")
         ->type_name("FILE");
+    run.add_flag("--sound", o.sound,
+                 "Load the sound library Modules/Plugin/OrbiterSound.dll of the root before the vessels; "
+                 "its loads, plays and stops are \"sound\" events");
 }
 
 void CheckNumbers(const NumberTexts &n, RunOptions &o) {

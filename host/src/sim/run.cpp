@@ -17,6 +17,7 @@
 #include "scenario/atomic_write.h"
 #include "scenario/scenario_world.h"
 #include "screen/hud_render.h"
+#include "sound_plugin.h"
 #include "state_json.h"
 
 namespace hullhost::sim {
@@ -170,6 +171,9 @@ void RunScenario(const RunOptions &options) {
     const ScenarioFile scenario = ScenarioFile::Read(scenarioPath);
 
     WorkingDirectory cwd(root);
+    std::optional<SoundPlugin> sound;
+    if (options.sound)
+        sound.emplace(root.string());
     World world(root.string());
     world.seed = options.seed;
     world.accel = options.accel;

@@ -1,0 +1,22 @@
+// The sound library of the root (Modules/Plugin/OrbiterSound.dll), loaded
+// for a run with --sound before any vessel, so that the vessel modules find
+// it among the loaded libraries. Without it they run silently.
+#pragma once
+
+#include <string>
+
+namespace hullhost::sim {
+
+class SoundPlugin {
+  public:
+    // Throws std::runtime_error when the library can't be loaded.
+    explicit SoundPlugin(const std::string &root);
+    ~SoundPlugin();
+    SoundPlugin(const SoundPlugin &) = delete;
+    SoundPlugin &operator=(const SoundPlugin &) = delete;
+
+  private:
+    void *library_ = nullptr;
+};
+
+} // namespace hullhost::sim
