@@ -82,6 +82,7 @@ void HULLKIT::ApplyConfiguration() {
         OrbitTargetRadius = target * 1000.0 + 6371000.0;
         OrbitInclination = inclination * 0.017453292519943295;
     }
+    SetupWind();
     if (IsTrue(Cfg("VC")))
         AddUpdater(&HULLKIT::H_VC);
     UpdateAwareness();
