@@ -14,6 +14,9 @@ constexpr double kHalfPi = 1.5707963267948966;
 constexpr double kLampLimit = 90.0, kBeaconLimit = 100.0;
 // The host lights stay on only for a viewer this close [m].
 constexpr double kLightRange = 5000.0;
+// The most lamps of one set, so that no configuration floods the host with
+// sprites; a grid beyond it loses rows (and columns).
+constexpr int32_t kMaxLamps = 10000;
 
 VECTOR3 Heading(double azimuth, double elevation) {
     return {std::sin(azimuth) * std::cos(elevation), std::sin(elevation),
@@ -43,11 +46,13 @@ void HULLKIT::BuildSpotlights() {
             set->Emitter->Activate(false);
         const VECTOR3 columnStep{std::sin(azm + kHalfPi) * set->dHorStep, 0.0,
                                  std::cos(azm + kHalfPi) * set->dHorStep};
-        double c = azm + lightAzm - set->cols * dAzm / 2.0;
+        const int32_t cols = std::clamp(set->cols, 0, kMaxLamps);
+        const int32_t rows = std::clamp(set->rows, 0, cols > 0 ? kMaxLamps / cols : 0);
+        double c = azm + lightAzm - cols * dAzm / 2.0;
         VECTOR3 p = set->pos;
         VECTOR3 d = Heading(c, elev);
-        for (int32_t col = 0; col < set->cols; ++col) {
-            for (int32_t row = 0; row < set->rows; ++row) {
+        for (int32_t col = 0; col < cols; ++col) {
+            for (int32_t row = 0; row < rows; ++row) {
                 AddExhaust(lamps, 0.1, set->faceWidth, p, d, face ? face->surface : nullptr);
                 if (beams)
                     AddExhaust(lamps, set->len, set->wid, p, d, beam ? beam->surface : nullptr);
