@@ -2,7 +2,8 @@
 // vessel modules look for (OrbiterSound.dll). It gives each vessel a link
 // id, loads the wave files the vessels name (paths relative to the root,
 // the host's working directory), and tells the world's listener of every
-// load, play and stop. Nothing is heard: the run is headless.
+// load, play and stop. Nothing is heard, the run being headless, but what
+// was played can be mixed into a soundtrack of the run.
 //
 // Test builds leave out groups of exports (HULLSOUND_LACKS_REQUIRED,
 // HULLSOUND_LACKS_3D, HULLSOUND_LACKS_ID) to stand for older libraries.
@@ -12,7 +13,7 @@
 
 #include "SoundLibraryAPI.h"
 #include "core/world.h"
-#include "wave_file.h"
+#include "soundtrack.h"
 
 #define HULLSOUND_EXPORT extern "C" __attribute__((visibility("default")))
 
@@ -24,11 +25,17 @@ constexpr float kVersion = 4.0f;
 struct Link {
     OBJHANDLE vessel = nullptr;
     std::array<std::string, kWaves> files; // as loaded; empty: none
+    std::array<std::shared_ptr<const hullsound::Clip>, kWaves> clips;
 };
 
 std::vector<Link> links;
+hullsound::Soundtrack soundtrack;
 
 hullhost::World *World() { return hullhost::World::CurrentOrNull(); }
+
+// A wave of a link, as the soundtrack tells its voices apart.
+long Key(int id, int wave) { return static_cast<long>(id) * kWaves + wave; }
+double Now() { return World() ? World()->simt : 0.0; }
 
 Link *LinkOf(int id) {
     return id >= 0 && static_cast<std::size_t>(id) < links.size() ? &links[static_cast<std::size_t>(id)]
@@ -64,10 +71,10 @@ HULLSOUND_EXPORT int GetVesselSoundID3(OBJHANDLE vessel) {
             return static_cast<int>(i);
     for (std::size_t i = 0; i < links.size(); ++i)
         if (world && !world->IsVessel(links[i].vessel)) {
-            links[i] = Link{vessel, {}};
+            links[i] = Link{vessel, {}, {}};
             return static_cast<int>(i);
         }
-    links.push_back(Link{vessel, {}});
+    links.push_back(Link{vessel, {}, {}});
     return static_cast<int>(links.size() - 1);
 }
 #endif
@@ -78,10 +85,12 @@ HULLSOUND_EXPORT int LoadVesselWaveOBSound3(int id, int wave, char *file, int) {
         return 0;
     hullhost::World *world = World();
     const std::string name = file;
-    const bool found = world && hullsound::ReadWaveFormat(world->LocalPath(name)).has_value();
+    auto clip = world ? hullsound::ReadClip(world->LocalPath(name)) : nullptr;
+    const bool found = clip != nullptr;
     if (!found && world)
         world->WriteLog("sound: no wave file '" + name + "'");
     link->files[static_cast<std::size_t>(wave)] = found ? name : std::string();
+    link->clips[static_cast<std::size_t>(wave)] = std::move(clip);
     Tell(*link, wave, name, "load");
     return found ? 1 : 0;
 }
@@ -92,6 +101,7 @@ HULLSOUND_EXPORT int PlayVesselWaveOBSound3(int id, int wave, int loop, int volu
         return 0;
     const std::string &file = link->files[static_cast<std::size_t>(wave)];
     Tell(*link, wave, file, "play", loop, volume);
+    soundtrack.Play(Key(id, wave), link->clips[static_cast<std::size_t>(wave)], Now(), loop == 1, volume);
     return file.empty() ? 0 : 1;
 }
 
@@ -104,7 +114,14 @@ HULLSOUND_EXPORT int StopVesselWave3(int id, int wave) {
     if (!link || !ValidWave(wave))
         return 0;
     Tell(*link, wave, link->files[static_cast<std::size_t>(wave)], "stop");
+    soundtrack.Stop(Key(id, wave), Now());
     return 1;
+}
+
+// For the host: writes what was played from 0 to `end` seconds of
+// simulation time as a wave file; 1 when written.
+HULLSOUND_EXPORT int HullsimWriteSoundtrack(const char *path, double end) {
+    return path && soundtrack.Write(path, end) ? 1 : 0;
 }
 
 HULLSOUND_EXPORT int IsPlayingVesselWave3(int, int) { return 0; }

@@ -36,6 +36,7 @@ std::optional<WaveFormat> ReadWaveFormat(const std::string &path) {
             in.seekg(static_cast<std::streamoff>(size - 16 + (size & 1)), std::ios::cur);
         } else if (std::memcmp(head, "data", 4) == 0) {
             format.dataBytes = size;
+            format.dataOffset = static_cast<uint64_t>(in.tellg());
             if (!haveFormat || format.channels == 0 || format.sampleRate == 0)
                 return std::nullopt;
             return format;

@@ -12,7 +12,8 @@ struct WaveFormat {
     uint16_t channels = 0;
     uint32_t sampleRate = 0;
     uint16_t bitsPerSample = 0;
-    uint32_t dataBytes = 0; // length of the sample data
+    uint32_t dataBytes = 0;  // length of the sample data
+    uint64_t dataOffset = 0; // where it starts in the file
 };
 
 // The format of a PCM wave file; none when the file can't be read or isn't one.

@@ -203,4 +203,28 @@ TEST_F(HullsimSoundTest, PyroOfAReleaseFollowsTheDistanceRuleThroughTheCommonTab
     }
 }
 
+// The soundtrack of a release: silence until the pyro plays at the stage's
+// release, 10.3 s in, then its 0.3 s clip.
+TEST_F(HullsimSoundTest, SoundtrackMixesWhatWasPlayedAtItsTime) {
+    MakeRoot(SOUND_LIBRARY);
+    const hosttest::Result r = Run({"run", "KorvanRelease", "--root", root.string(), "--for", "12", "--dt",
+                                    "0.1", "--soundtrack", dir / "track.wav"});
+    ASSERT_EQ(r.code, 0) << r.err;
+    const std::string wav = ReadText(dir / "track.wav");
+    ASSERT_EQ(wav.substr(0, 4), "RIFF");
+    ASSERT_EQ(wav.size(), 44u + 2 * 8000 * 12);
+    auto loudest = [&wav](double from, double to) {
+        int most = 0;
+        for (auto i = static_cast<std::size_t>(from * 8000); i < static_cast<std::size_t>(to * 8000); ++i) {
+            const auto lo = static_cast<unsigned char>(wav[44 + 2 * i]),
+                       hi = static_cast<unsigned char>(wav[45 + 2 * i]);
+            most = std::max(most, std::abs(static_cast<int16_t>(lo | hi << 8)));
+        }
+        return most;
+    };
+    EXPECT_EQ(loudest(0.0, 10.2), 0);
+    EXPECT_GT(loudest(10.3, 10.6), 10000);
+    EXPECT_EQ(loudest(10.7, 12.0), 0);
+}
+
 } // namespace

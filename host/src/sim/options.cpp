@@ -91,6 +91,9 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
     run.add_flag("--sound", o.sound,
                  "Load the sound library Modules/Plugin/OrbiterSound.dll of the root before the vessels; "
                  "its loads, plays and stops are \"sound\" events");
+    run.add_option("--soundtrack", o.soundtrackPath,
+                   "With --sound: mix what was played into FILE (WAV, 8 kHz, the first hour at most)")
+        ->type_name("FILE");
 }
 
 void CheckNumbers(const NumberTexts &n, RunOptions &o) {

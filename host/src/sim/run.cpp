@@ -165,6 +165,7 @@ void RunScenario(const RunOptions &options) {
                       OutputPath(options.plotPath, "--plot"),
                       OutputPath(options.orbitViewPath, "--orbit-view"),
                       OutputPath(options.eventsPath, "--events")};
+    const std::string soundtrack = OutputPath(options.soundtrackPath, "--soundtrack");
     std::vector<KeyAction> keys;
     if (!options.keysPath.empty())
         keys = ReadKeyScript(fs::absolute(options.keysPath).string());
@@ -172,7 +173,7 @@ void RunScenario(const RunOptions &options) {
 
     WorkingDirectory cwd(root);
     std::optional<SoundPlugin> sound;
-    if (options.sound)
+    if (options.sound || !soundtrack.empty())
         sound.emplace(root.string());
     World world(root.string());
     world.seed = options.seed;
@@ -204,6 +205,8 @@ void RunScenario(const RunOptions &options) {
     }
     if (events)
         events->Write();
+    if (sound && !soundtrack.empty())
+        sound->WriteSoundtrack(soundtrack, world.simt);
 }
 
 } // namespace hullhost::sim

@@ -16,4 +16,11 @@ SoundPlugin::SoundPlugin(const std::string &root) {
 
 SoundPlugin::~SoundPlugin() { dlclose(library_); }
 
+void SoundPlugin::WriteSoundtrack(const std::string &path, double end) const {
+    using WriteFunc = int (*)(const char *, double);
+    auto write = reinterpret_cast<WriteFunc>(dlsym(library_, "HullsimWriteSoundtrack"));
+    if (!write || !write(path.c_str(), end))
+        throw std::runtime_error("--soundtrack: can't write '" + path + "'");
+}
+
 } // namespace hullhost::sim

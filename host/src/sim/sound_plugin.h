@@ -15,6 +15,10 @@ class SoundPlugin {
     SoundPlugin(const SoundPlugin &) = delete;
     SoundPlugin &operator=(const SoundPlugin &) = delete;
 
+    // Writes the library's mix of what was played from 0 to `end` seconds.
+    // Throws std::runtime_error when the library can't.
+    void WriteSoundtrack(const std::string &path, double end) const;
+
   private:
     void *library_ = nullptr;
 };
