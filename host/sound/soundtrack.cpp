@@ -23,9 +23,13 @@ std::shared_ptr<const Clip> ReadClip(const std::string &path) {
     const std::optional<WaveFormat> format = ReadWaveFormat(path);
     if (!format || (format->bitsPerSample != 8 && format->bitsPerSample != 16))
         return nullptr;
-    std::ifstream in(path, std::ios::binary);
-    in.seekg(format->dataOffset);
-    std::vector<unsigned char> data(format->dataBytes);
+    std::ifstream in(path, std::ios::binary | std::ios::ate);
+    // No more than the file holds, whatever its header says, and no clip
+    // longer than a minute at 48 kHz in stereo.
+    const auto size = static_cast<uint64_t>(std::max<std::streamoff>(in.tellg(), 0));
+    const uint64_t held = size > format->dataOffset ? size - format->dataOffset : 0;
+    in.seekg(static_cast<std::streamoff>(format->dataOffset));
+    std::vector<unsigned char> data(std::min<uint64_t>({format->dataBytes, held, 60u * 48000u * 4u}));
     in.read(reinterpret_cast<char *>(data.data()), static_cast<std::streamsize>(data.size()));
     data.resize(static_cast<std::size_t>(in.gcount()));
     auto clip = std::make_shared<Clip>();
