@@ -29,6 +29,27 @@ void VesselStep(benchmark::State &state) {
     state.counters["updaters"] = static_cast<double>(p.Updaters.size());
 }
 
+// A step with the gusty wind and the main engine watch (silent: no library).
+void WindAndEngineStep(benchmark::State &state) {
+    testing_support::TestWorld env;
+    env.AddClass("Probe", ProbeInit, ProbeExit);
+    hullhost::Vessel &host = env.Load("P", "Test\\Probe", {"STATUS Orbiting Earth"});
+    auto &p = testing_support::Object<ProbeVessel>(host);
+    p.WindGusty = true;
+    p.WindForce = 1000.0;
+    p.AddUpdater(&HULLKIT::P_WINDS);
+    p.AddUpdater(&HULLKIT::WatchMainEngine);
+    p.SkipNextStep = false;
+    double t = 0.0;
+    for (auto _ : state) {
+        host.forces.clear(); // as the host does each frame
+        p.clbkPreStep(t += 1e-3, 1e-3, 0.0);
+        benchmark::DoNotOptimize(host.forces.data());
+    }
+    state.counters["updaters"] = static_cast<double>(p.Updaters.size());
+}
+
 } // namespace
 
 BENCHMARK(VesselStep)->Arg(0)->Arg(1)->Arg(2)->Arg(3)->Arg(4);
+BENCHMARK(WindAndEngineStep);

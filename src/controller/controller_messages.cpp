@@ -61,6 +61,13 @@ intptr_t FleetController::OnPeerMessage(OBJHANDLE sender, int code, intptr_t arg
     case 16:
         Record(FleetEventKind::PlotColour, sender, argument);
         return 0;
+    case 12:
+        // A vessel's cockpit asks for the sounds: every framework vessel
+        // loads the common table the controller has gathered.
+        for (DWORD i = 0; i < oapiGetVesselCount(); ++i)
+            if (OBJHANDLE other = oapiGetVesselByIndex(static_cast<int>(i)); other != GetHandle())
+                SendPeerMessage(other, 12, 0);
+        return HULLKIT::OnPeerMessage(sender, code, argument);
     default:
         return HULLKIT::OnPeerMessage(sender, code, argument);
     }

@@ -15,4 +15,8 @@ void HULLKIT::UpdateAwareness() {
 
 void HULLKIT::H_AWARENESS() { UpdateAwareness(); }
 
-void HULLKIT::WatchMainEngine() { mainRunning = GetThrusterGroupLevel(THGROUP_MAIN) > 0.0; }
+void HULLKIT::WatchMainEngine() {
+    const double level = GetThrusterGroupLevel(THGROUP_MAIN);
+    DriveEngineSound(level);
+    mainRunning = level > 0.0;
+}

@@ -11,7 +11,6 @@ void HULLKIT::H_ATM_FLT() {}
 void HULLKIT::H_GROUND_WATCH() {}
 void HULLKIT::H_CONTRAIL() {}
 void HULLKIT::H_FAIL_FIRE() {}
-void HULLKIT::P_WINDS() {}
 void HULLKIT::H_PARK() {}
 void HULLKIT::H_DUST() {}
 void HULLKIT::H_FAIL_ACT() {}

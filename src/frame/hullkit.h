@@ -404,8 +404,20 @@ class HULLKIT : public VESSEL3 {
     int32_t ResolveGroupLabel(const std::string &meshName, const std::string &label);
     // The vessel's link to the sound library, between the sounds and the textures.
     void ConnectVesselSound();
+    // --- Sound, spotlights and wind -----------------------------------------------
+    // Loads the wave table (the controller's common one, if there is a
+    // controller) through the link, and looks up the sounds by name.
+    void LoadSounds();
     // A sound of the table heard from this vessel: mode 0 once, 1 in a loop, 3 stop.
     void PlayVesselSound(int wave, int mode, int volume);
+    // The engine loop at the main level; its stop once the engine went out.
+    void DriveEngineSound(double level);
+    // The lamps' host lights and sprites of every floodlight set, dark.
+    void BuildSpotlights();
+    // Every set's host light on or off.
+    void ActivateSpotlights(bool on);
+    // The wind of this run: drawn, or the controller's.
+    void SetupWind();
 
     // --- Animations and their controllers ---------------------------------------
     // Appends a component's groups to the group store and points the record at
@@ -554,6 +566,19 @@ class HULLKIT : public VESSEL3 {
     double CurrentTimeAccel, MaxTimeAccel;
     double SpotlightFogProbability;
     int SoundId;
+    // Table indices of the named sounds; -1 where the table has none.
+    int SndThud = -1, SndEngine = -1, SndAlarm = -1, SndGas = -1, SndPyro = -1, SndMotor = -1, SndClang = -1,
+        SndRadio = -1;
+    // The floodlight sets' host lights are on.
+    bool SpotlightsLit = false;
+    // The wind: gusty, the drawn strength (0 to 1), the direction in the
+    // horizon frame (a horizontal unit vector), the force [N] and its point
+    // of attack in the vessel's frame.
+    bool WindGusty = false;
+    double WindStrength = 0.0;
+    VECTOR3 WindDir{1, 0, 0};
+    double WindForce = 0.0;
+    VECTOR3 WindPoint{0, 0, 0};
     VECTOR3 ImuYawRef, ImuPitchRef;
     OBJHANDLE EarthHandle, MoonHandle;
     oapi::Pen *HudPen;

@@ -63,6 +63,10 @@ void HULLKIT::ApplyConfiguration() {
     AddLevelStreams();
     if (CgOffset.x != 0.0 || CgOffset.y != 0.0 || CgOffset.z != 0.0)
         ShiftCG(CgOffset);
+    if (SpotlightSetTable.Count() > 0) {
+        AddOneShot(2.0, &HULLKIT::H_CHK_SPOTLIGHTS);
+        AddMinuteEvent(&HULLKIT::H_CHK_SPOTLIGHTS);
+    }
     ReplayScenarioLines();
     SetEnableFocus(FocusEnabled);
     FindMainTank();
@@ -78,6 +82,7 @@ void HULLKIT::ApplyConfiguration() {
         OrbitTargetRadius = target * 1000.0 + 6371000.0;
         OrbitInclination = inclination * 0.017453292519943295;
     }
+    SetupWind();
     if (IsTrue(Cfg("VC")))
         AddUpdater(&HULLKIT::H_VC);
     UpdateAwareness();

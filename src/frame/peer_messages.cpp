@@ -93,10 +93,12 @@ int HULLKIT::LookUpInt(const char *name) {
 
 bool HULLKIT::LookUpFlag(const char *name) { return LookUpInt(name) > 0; }
 
-// The framework acts on message 20 (the landed state of attached children,
-// passed down the chain); 12 (the sound load) and 19 (a delayed explosion)
-// come with their subsystems. Every answer is 0.
+// The framework acts on message 12 (the sound load) and 20 (the landed state
+// of attached children, passed down the chain); 19 (a delayed explosion)
+// comes with its subsystem. Every answer is 0.
 intptr_t HULLKIT::OnPeerMessage(OBJHANDLE, int code, intptr_t) {
+    if (code == 12)
+        LoadSounds();
     if (code == 20)
         for (int32_t i = 0; i < ChildTable.Count(); ++i)
             if (CHILD_REC *rec = ChildTable.At(i); rec && !rec->AttachedName.empty() && rec->ChildHullkit) {

@@ -35,6 +35,7 @@ void HULLKIT::CreateResourceTables() {
     for (int32_t i = 0; i < BeaconTable.Count(); ++i)
         if (BEACON_REC *beacon = BeaconTable.At(i))
             AddBeacon(&beacon->spec);
+    BuildSpotlights();
 
     CurrentCamera = CameraTable.NameAt(0);
 }

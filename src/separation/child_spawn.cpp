@@ -45,4 +45,6 @@ void HULLKIT::FinishDeferredCreation() {
     FirstPass(&discarded);
     LoadConfiguration();
     ApplyConfiguration();
+    if (ControllerObject)
+        LoadSounds();
 }

@@ -9,4 +9,3 @@ void HULLKIT::OnCrash(bool) {}
 void HULLKIT::DoWreck() {}
 void HULLKIT::DoBlast(bool) {}
 void HULLKIT::H_DELAYED_EXPL() {}
-void HULLKIT::H_PYRO_SOUND() {}

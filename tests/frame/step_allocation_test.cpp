@@ -37,6 +37,11 @@ TEST_F(ProbeTest, StepsWithRunningTimersAllocateNothing) {
     p.AddSecondEvent(&HULLKIT::H_NO_ACT);
     p.AddMinuteEvent(&HULLKIT::H_NO_ACT);
     p.AddOneShot(1000.0, &HULLKIT::H_NO_ACT);
+    // The gusty wind and the engine watch with its (silent) sound.
+    p.WindGusty = true;
+    p.AddUpdater(&HULLKIT::P_WINDS);
+    p.AddUpdater(&HULLKIT::WatchMainEngine);
+    env.world->VesselFromHandle(p.GetHandle())->forces.reserve(1000);
     p.runs.reserve(1000);
 
     long before = allocations;

@@ -10,6 +10,15 @@ namespace hullhost {
 
 class Vessel;
 
+// A wave that a sound library loaded, played or stopped on a vessel's link.
+struct SoundEvent {
+    const Vessel *listener = nullptr; // the link's vessel; null once it is gone
+    int wave = 0;
+    const char *file = nullptr; // as the module named it; null when none is loaded
+    const char *op = "";        // "load", "play" or "stop"
+    int loop = -1, volume = -1; // of a play: 0 once, 1 in a loop; volume as given
+};
+
 class WorldEvents {
   public:
     virtual ~WorldEvents() = default;
@@ -33,6 +42,9 @@ class WorldEvents {
                             double velocity) = 0;
     // One of a vessel's navigation modes went on or off.
     virtual void OnNavmode(const Vessel &v, int mode, bool active) = 0;
+    // A sound library acted on a wave; listeners that don't care needn't
+    // override it.
+    virtual void OnSound(const SoundEvent &) {}
 };
 
 } // namespace hullhost

@@ -90,4 +90,15 @@ void EventLog::OnNavmode(const Vessel &v, int mode, bool active) {
     Add("navmode", {{"vessel", v.Name()}, {"mode", mode}, {"active", active}});
 }
 
+void EventLog::OnSound(const SoundEvent &e) {
+    using nlohmann::ordered_json;
+    const bool play = std::string_view(e.op) == "play";
+    Add("sound", {{"vessel", e.listener ? ordered_json(e.listener->Name()) : ordered_json(nullptr)},
+                  {"wave", e.wave},
+                  {"file", e.file ? ordered_json(e.file) : ordered_json(nullptr)},
+                  {"op", e.op},
+                  {"loop", play ? ordered_json(e.loop) : ordered_json(nullptr)},
+                  {"volume", play ? ordered_json(e.volume) : ordered_json(nullptr)}});
+}
+
 } // namespace hullhost::sim

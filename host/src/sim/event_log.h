@@ -16,6 +16,11 @@
 //                            kEngineStep since the last one written
 //   navmode   vessel, mode, active
 //                            a navigation mode (its number) went on or off
+//   sound     vessel, wave, file, op, loop, volume
+//                            the sound library loaded, played or stopped a
+//                            wave on the link of `vessel` (the listener);
+//                            file null when none is loaded, loop and volume
+//                            null but for a play
 //
 // The log is kept in memory and written whole at the end, also when the run
 // fails midway.
@@ -61,6 +66,7 @@ class EventLog final : public WorldEvents {
     void OnDetached(const Vessel &parent, const Vessel &child, const std::string &point,
                     double velocity) override;
     void OnNavmode(const Vessel &v, int mode, bool active) override;
+    void OnSound(const SoundEvent &e) override;
 
   private:
     using Field = std::pair<const char *, nlohmann::ordered_json>;

@@ -88,6 +88,12 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
     run.add_option("--events", o.eventsPath,
                    "Write the run's events to FILE as JSON Lines, also when the run fails midway")
         ->type_name("FILE");
+    run.add_flag("--sound", o.sound,
+                 "Load the sound library Modules/Plugin/OrbiterSound.dll of the root before the vessels; "
+                 "its loads, plays and stops are \"sound\" events");
+    run.add_option("--soundtrack", o.soundtrackPath,
+                   "With --sound: mix what was played into FILE (WAV, 8 kHz, the first hour at most)")
+        ->type_name("FILE");
 }
 
 void CheckNumbers(const NumberTexts &n, RunOptions &o) {

@@ -25,6 +25,8 @@ struct RunOptions {
     std::string orbitViewPath;       // SVG orbit view of the tracked vessels; empty: none
     bool summary = false;            // print the mission summary of the tracked vessels
     std::string eventsPath;          // JSON Lines log of the run's events; empty: none
+    bool sound = false;              // load the root's sound library before the vessels
+    std::string soundtrackPath;      // WAV of what was played; implies sound; empty: none
     std::vector<std::string> tracks; // vessels to record; none: the focus vessel
     double telemetryInterval = 1.0;  // simulation time between samples [s]
 };

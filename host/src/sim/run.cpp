@@ -17,6 +17,7 @@
 #include "scenario/atomic_write.h"
 #include "scenario/scenario_world.h"
 #include "screen/hud_render.h"
+#include "sound_plugin.h"
 #include "state_json.h"
 
 namespace hullhost::sim {
@@ -164,12 +165,16 @@ void RunScenario(const RunOptions &options) {
                       OutputPath(options.plotPath, "--plot"),
                       OutputPath(options.orbitViewPath, "--orbit-view"),
                       OutputPath(options.eventsPath, "--events")};
+    const std::string soundtrack = OutputPath(options.soundtrackPath, "--soundtrack");
     std::vector<KeyAction> keys;
     if (!options.keysPath.empty())
         keys = ReadKeyScript(fs::absolute(options.keysPath).string());
     const ScenarioFile scenario = ScenarioFile::Read(scenarioPath);
 
     WorkingDirectory cwd(root);
+    std::optional<SoundPlugin> sound;
+    if (options.sound || !soundtrack.empty())
+        sound.emplace(root.string());
     World world(root.string());
     world.seed = options.seed;
     world.accel = options.accel;
@@ -200,6 +205,8 @@ void RunScenario(const RunOptions &options) {
     }
     if (events)
         events->Write();
+    if (sound && !soundtrack.empty())
+        sound->WriteSoundtrack(soundtrack, world.simt);
 }
 
 } // namespace hullhost::sim
