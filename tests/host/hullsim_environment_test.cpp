@@ -2,7 +2,9 @@
 // alarms and crashes into its wrecks; the fairing heats, glows and comes down.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <nlohmann/json.hpp>
+#include <numbers>
 #include <sstream>
 
 #include "hullsim_fixture.h"
@@ -80,6 +82,49 @@ TEST_F(HullsimEnvironmentTest, FairingHeatsGlowsAndComesDown) {
         EXPECT_NE(end.find("Fairing-1:Fleet\\Generic\n  STATUS Landed Earth"), std::string::npos) << end;
     }
     EXPECT_EQ(end.find("TEMPERATURE"), std::string::npos) << end;
+}
+
+// The POS of each landed vessel of a scenario text: name, longitude, latitude.
+std::map<std::string, std::pair<double, double>> LandedPlaces(const std::string &text) {
+    std::map<std::string, std::pair<double, double>> places;
+    std::istringstream lines(text);
+    std::string name;
+    bool landed = false;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find(':') != std::string::npos && line[0] != ' ') {
+            name = line.substr(0, line.find(':'));
+            landed = false;
+        }
+        if (line.find("STATUS Landed") != std::string::npos)
+            landed = true;
+        if (line.rfind("  POS ", 0) == 0 && landed) {
+            std::istringstream pos(line.substr(6));
+            pos >> places[name].first >> places[name].second;
+        }
+    }
+    return places;
+}
+
+// Every landed vessel of the shipped scenarios keeps its place to within a
+// metre over a day, at 1x and at 1000x.
+TEST_F(HullsimEnvironmentTest, LandedVesselsStayPutForADay) {
+    const double metre = 180.0 / (std::numbers::pi * 6371010.0); // [deg]
+    for (const char *scenario : {"KorvanLanded", "KorvanFlight", "FairingReentry"}) {
+        const auto before =
+            LandedPlaces(ReadText(std::string(HULLKIT_BUILD_ROOT) + "/Scenarios/" + scenario + ".scn"));
+        ASSERT_FALSE(before.empty()) << scenario;
+        for (const char *accel : {"1", "1000"}) {
+            Fly(scenario, "1", {"--for", "86400", "--dt", "1", "--accel", accel, "--save", dir / "day.scn"});
+            const auto after = LandedPlaces(ReadText(dir / "day.scn"));
+            for (const auto &[name, place] : before) {
+                ASSERT_TRUE(after.contains(name)) << scenario << " " << name;
+                EXPECT_NEAR(after.at(name).first, place.first, metre)
+                    << scenario << " " << name << " " << accel;
+                EXPECT_NEAR(after.at(name).second, place.second, metre)
+                    << scenario << " " << name << " " << accel;
+            }
+        }
+    }
 }
 
 } // namespace
