@@ -80,8 +80,8 @@ void HULLKIT::BuildAirfoils() {
     GetCrossSections(cs);
     Airfoil = MakeAirfoilParams(cs, record);
     ClearAirfoilDefinitions();
-    CreateAirfoil3(LIFT_VERTICAL, Airfoil.centerOfPressure, VerticalCoeff, this, Airfoil.WingChord,
-                   Airfoil.WingS, Airfoil.WingAspect);
-    CreateAirfoil3(LIFT_HORIZONTAL, Airfoil.centerOfPressure, HorizontalCoeff, this, Airfoil.WingChord,
-                   Airfoil.WingS, Airfoil.WingAspect);
+    AirfoilVertical = CreateAirfoil3(LIFT_VERTICAL, Airfoil.centerOfPressure, VerticalCoeff, this,
+                                     Airfoil.WingChord, Airfoil.WingS, Airfoil.WingAspect);
+    AirfoilHorizontal = CreateAirfoil3(LIFT_HORIZONTAL, Airfoil.centerOfPressure, HorizontalCoeff, this,
+                                       Airfoil.WingChord, Airfoil.WingS, Airfoil.WingAspect);
 }

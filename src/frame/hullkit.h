@@ -666,7 +666,9 @@ class HULLKIT : public VESSEL3 {
     // The thruster group Shine, null without the reentry glow.
     THGROUP_HANDLE ShineGroup = nullptr;
     // What the airfoil callbacks read; the host keeps a pointer to the vessel.
+    // The two airfoils, null until made.
     AirfoilParams Airfoil;
+    AIRFOILHANDLE AirfoilVertical = nullptr, AirfoilHorizontal = nullptr;
 };
 
 // The marker sits directly behind the host's part of the object, where any
