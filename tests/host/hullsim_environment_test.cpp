@@ -72,8 +72,15 @@ TEST_F(HullsimEnvironmentTest, FairingHeatsGlowsAndComesDown) {
         const std::size_t at = scenario.find("TEMPERATURE ");
         return at == std::string::npos ? 20.0 : std::stod(scenario.substr(at + 12));
     };
-    Fly("FairingReentry", "5", {"--for", "300", "--dt", "0.2", "--accel", "5", "--save", dir / "hot.scn"});
-    EXPECT_GT(temperature(ReadText(dir / "hot.scn")), 500.0);
+    Fly("FairingReentry", "5",
+        {"--for", "250", "--dt", "0.2", "--accel", "5", "--save", dir / "hot.scn", "--state",
+         dir / "hot.json"});
+    const double hot = temperature(ReadText(dir / "hot.scn"));
+    EXPECT_GT(hot, 500.0);
+    // Above 30 km the glow shows through the group Shine, its only group.
+    const json fairing = json::parse(ReadText(dir / "hot.json"))["vessels"][1];
+    ASSERT_EQ(fairing["name"], "Fairing-1");
+    EXPECT_NEAR(fairing["thrusterGroups"][0]["level"].get<double>(), 2.0 * (hot - 500.0) / 2500.0, 0.01);
     const std::vector<json> events = Fly(
         "FairingReentry", "5", {"--for", "1000", "--dt", "0.2", "--accel", "5", "--save", dir / "end.scn"});
     const std::string end = ReadText(dir / "end.scn");
