@@ -1,4 +1,5 @@
-// The cost of a vessel's step: one indirect call per active updater.
+// The cost of a vessel's step: one indirect call per active updater; and the
+// flight watch, the costliest updater of a vessel in air.
 #include <benchmark/benchmark.h>
 
 #include "probe_vessel.h"
@@ -49,7 +50,23 @@ void WindAndEngineStep(benchmark::State &state) {
     state.counters["updaters"] = static_cast<double>(p.Updaters.size());
 }
 
+// The flight watch of a vessel in air at 60 km: heating, hot wake, glow and
+// the pressure limit, with the host's air data it asks for.
+void AtmosphereFlightStep(benchmark::State &state) {
+    testing_support::TestWorld env;
+    env.AddClass("Probe", ProbeInit, ProbeExit);
+    auto &p = testing_support::Object<ProbeVessel>(env.Load(
+        "P", "Test\\Probe", {"STATUS Orbiting Earth", "RPOS 6431010 0 0", "RVEL 0 0 7000", "AROT 0 0 0"}));
+    p.SimStep = 1e-3;
+    for (auto _ : state) {
+        p.H_ATM_FLT();
+        benchmark::DoNotOptimize(p.Temperature);
+    }
+    state.counters["dynPressure"] = p.DynPressure;
+}
+
 } // namespace
 
 BENCHMARK(VesselStep)->Arg(0)->Arg(1)->Arg(2)->Arg(3)->Arg(4);
 BENCHMARK(WindAndEngineStep);
+BENCHMARK(AtmosphereFlightStep);

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "HullsimAPI.h"
 #include "config/text_ops.h"
 #include "controller/fleet_controller.h"
 #include "frame/vessel_report.h"
@@ -98,6 +99,8 @@ void FleetController::Record(FleetEventKind kind, OBJHANDLE sender, intptr_t arg
         event.latitude = report.latitude;
         event.longitude = report.longitude;
         event.altitude = report.altitude;
+        hullsimReport(sender, report.kind, event.text.c_str(), report.latitude, report.longitude,
+                      report.altitude);
         break;
     }
     default:

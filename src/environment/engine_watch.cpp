@@ -1,21 +1,17 @@
-// The main engine watch, and the switch that installs it.
+// The main engine watch: whether the engine runs, its sound, and a failed
+// engine dying away, 3 to 7 s from full level, however it is throttled.
 #include "frame/hullkit.h"
-
-void HULLKIT::UpdateAwareness() {
-    const bool aware = !Attached || AwareWhileAttached;
-    if (!aware) {
-        RemoveUpdater(&HULLKIT::WatchMainEngine);
-        return;
-    }
-    // Only an engine with propellant behind it is worth watching.
-    PROPELLANT_HANDLE first = GetPropellantHandleByIndex(0);
-    if (GetThrusterGroupHandle(THGROUP_MAIN) && first && GetPropellantMass(first) > 0.0)
-        AddUpdater(&HULLKIT::WatchMainEngine);
-}
-
-void HULLKIT::H_AWARENESS() { UpdateAwareness(); }
+#include "frame/random_draw.h"
 
 void HULLKIT::WatchMainEngine() {
+    if (MainEngineFailed) {
+        const double level = GetThrusterGroupLevel(THGROUP_MAIN);
+        const double dt = SimStep;
+        if (level - dt / RandomDraw(3.0, 4.0) > 0.0)
+            SetThrusterGroupLevel(THGROUP_MAIN, level - dt / RandomDraw(3.0, 4.0));
+        else
+            SetThrusterGroupLevel(THGROUP_MAIN, 0.0);
+    }
     const double level = GetThrusterGroupLevel(THGROUP_MAIN);
     DriveEngineSound(level);
     mainRunning = level > 0.0;

@@ -12,6 +12,7 @@
 #include "config/config_table.h"
 #include "config/pitch_profile.h"
 #include "control/attitude_controls.h"
+#include "environment/airfoil_params.h"
 #include "environment/failure_entry.h"
 #include "frame/sequence_types.h"
 #include "frame/vessel_call.h"
@@ -193,9 +194,24 @@ class HULLKIT : public VESSEL3 {
     void WriteChildLines(FILEHANDLE scn);
 
     // --- Flight environment ------------------------------------------------------
-    // Switches the watches that run while the vessel is free: today the main
-    // engine watch.
+    // Switches the watches that run while the vessel is free: the main engine
+    // watch and the planet watch, which starts the ground and air watches.
     void UpdateAwareness();
+    // Altitude above the ground, also stored in Altitude.
+    double GetGroundAltitude();
+    // The failure draw of a load: whether, which, and after how much burn.
+    void DrawFailure();
+    void StartEngineFire();
+    // The smoke and flame streams at FirePos, on FireLevel.
+    void AddFireStreams();
+    void FailEngine();
+    void FailControlChannel();
+    // The two airfoils of the record aDefault, or of the cross sections.
+    void BuildAirfoils();
+    // More than a tenth of the mass is propellant.
+    bool HasExplosiveLoad();
+    // Children thrown off, neighbours told, wrecks made, the vessel deleted.
+    void CrashRoutine(bool blast, bool obliterated);
 
     // --- Cameras, focus and the message line ------------------------------------
     // Puts the camera record named CurrentCamera into the host.
@@ -680,6 +696,20 @@ class HULLKIT : public VESSEL3 {
     // Levels of the contrail, hot wake and dust streams. The host reads them
     // through the pointers it was given, so they stay members of the vessel.
     double ContrailLevel, HeatContrailLevel, DustLevel;
+
+    // The air and the watches: the last ground altitude [m], airspeed [m/s]
+    // and dynamic pressure [Pa] of H_ATM_FLT; the reentry glow (0 to 2, from
+    // Temperature); the layers entered; the surface reference and the one
+    // before it.
+    double Altitude = 0.0, Airspeed = 0.0, DynPressure = 0.0, Glow = 0.0;
+    bool InAtmosphere = false, InPlanetRange = false;
+    OBJHANDLE SurfaceRef = nullptr, PrevSurfaceRef = nullptr;
+    // The thruster group Shine, null without the reentry glow.
+    THGROUP_HANDLE ShineGroup = nullptr;
+    // What the airfoil callbacks read; the host keeps a pointer to the vessel.
+    // The two airfoils, null until made.
+    AirfoilParams Airfoil;
+    AIRFOILHANDLE AirfoilVertical = nullptr, AirfoilHorizontal = nullptr;
 };
 
 // The marker sits directly behind the host's part of the object, where any

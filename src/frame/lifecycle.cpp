@@ -54,12 +54,21 @@ void HULLKIT::clbkPostCreation() {
 
 void HULLKIT::ApplyConfiguration() {
     BuildResources();
+    DrawFailure();
     SetVisibilityLimit(VisLimitMesh, VisLimitSpot);
     if (AnimCtrlTable.Count() > 0)
         AddUpdater(&HULLKIT::H_ANIM);
     for (int32_t i = 0; i < ChildTable.Count(); ++i)
         if (CHILD_REC *rec = ChildTable.At(i))
             AttachChildRec(*rec);
+    if (ReentryGlowEnabled) {
+        const THRUSTERGROUP_REC *group = ThrusterGroupTable.Find("Shine");
+        ShineGroup = group ? group->handle : nullptr;
+        const THRUSTER_REC *shine = ThrusterTable.Find("ShinePlus");
+        const TEXTURE_REC *glow = TextureTable.Find("txGlow");
+        if (shine && shine->handle)
+            AddExhaust(shine->handle, 0.0, 1.0, glow ? glow->surface : nullptr);
+    }
     AddLevelStreams();
     if (CgOffset.x != 0.0 || CgOffset.y != 0.0 || CgOffset.z != 0.0)
         ShiftCG(CgOffset);
@@ -69,6 +78,11 @@ void HULLKIT::ApplyConfiguration() {
     }
     ReplayScenarioLines();
     SetEnableFocus(FocusEnabled);
+    // A fire that burned when the scenario was saved burns on.
+    if (FireLevel > 0.0) {
+        SetThrusterGroupLevel(THGROUP_MAIN, FireMainLevel);
+        AddFireStreams();
+    }
     FindMainTank();
     // The controller's block holds the fleet's orbit: two altitudes in km
     // above the fixed Earth radius and an inclination in degrees.
@@ -82,6 +96,7 @@ void HULLKIT::ApplyConfiguration() {
         OrbitTargetRadius = target * 1000.0 + 6371000.0;
         OrbitInclination = inclination * 0.017453292519943295;
     }
+    BuildAirfoils();
     SetupWind();
     if (IsTrue(Cfg("VC")))
         AddUpdater(&HULLKIT::H_VC);

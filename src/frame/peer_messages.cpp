@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "frame/hullkit.h"
+#include "frame/random_draw.h"
 #include "frame/vessel_report.h"
 
 intptr_t HULLKIT::SendPeerMessage(OBJHANDLE target, int code, intptr_t argument) {
@@ -93,12 +94,17 @@ int HULLKIT::LookUpInt(const char *name) {
 
 bool HULLKIT::LookUpFlag(const char *name) { return LookUpInt(name) > 0; }
 
-// The framework acts on message 12 (the sound load) and 20 (the landed state
-// of attached children, passed down the chain); 19 (a delayed explosion)
-// comes with its subsystem. Every answer is 0.
+// The framework acts on message 12 (the sound load), 19 (an explosion
+// nearby: a vessel with propellant goes up 1.5 to 4.5 s later) and 20 (the
+// landed state of attached children, passed down the chain). Every answer
+// is 0.
 intptr_t HULLKIT::OnPeerMessage(OBJHANDLE, int code, intptr_t) {
     if (code == 12)
         LoadSounds();
+    if (code == 19 && Destructible && (HasExplosiveLoad() || SelfDestructor)) {
+        AddOneShot(RandomDraw(1.5, 3.0), &HULLKIT::H_DELAYED_EXPL);
+        RaiseAlert();
+    }
     if (code == 20)
         for (int32_t i = 0; i < ChildTable.Count(); ++i)
             if (CHILD_REC *rec = ChildTable.At(i); rec && !rec->AttachedName.empty() && rec->ChildHullkit) {

@@ -35,7 +35,8 @@ void HULLKIT::RemoveUpdater(VesselCall call) {
 // in the same step; when one is removed at or before the current position,
 // the one that closes up to it waits for the next step.
 void HULLKIT::WalkUpdaters() {
-    for (size_t i = 0; i < Updaters.size(); ++i)
+    // A crash during the walk ends it: the vessel is on its way out.
+    for (size_t i = 0; i < Updaters.size() && !Crashed; ++i)
         if (VesselCall call = Updaters[i])
             (this->*call)();
 }

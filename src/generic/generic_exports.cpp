@@ -2,13 +2,13 @@
 // files make it a jettisoned element, a payload or a wreck.
 #include <new>
 
-#include "frame/hullkit.h"
+#include "generic/generic_piece.h"
 
 DLLCLBK VESSEL *ovcInit(OBJHANDLE hvessel, int flightmodel) {
-    return new (std::nothrow) HULLKIT(hvessel, flightmodel);
+    return new (std::nothrow) GenericPiece(hvessel, flightmodel);
 }
 
 DLLCLBK void ovcExit(VESSEL *vessel) {
     if (vessel)
-        delete static_cast<HULLKIT *>(vessel);
+        delete static_cast<GenericPiece *>(vessel);
 }

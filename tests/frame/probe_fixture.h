@@ -19,6 +19,11 @@ class ProbeTest : public ::testing::Test {
     }
 
     static VesselCall Call(void (ProbeVessel::*f)()) { return static_cast<VesselCall>(f); }
+    // Parks a probe: none of its watches run any more.
+    static void Park(ProbeVessel &p) {
+        p.Landed = true;
+        p.UpdateAwareness();
+    }
 
     testing_support::TestWorld env;
 };

@@ -6,7 +6,11 @@ using ::testing::IsEmpty;
 
 class TimerTest : public ProbeTest {
   protected:
-    TimerTest() : p(LoadProbe("P1")) { env.world->Frame(0.1); } // the step that does nothing
+    // The probe parked, so that no watch of its own fills the lists.
+    TimerTest() : p(LoadProbe("P1")) {
+        Park(p);
+        env.world->Frame(0.1); // the step that does nothing
+    }
 
     // A main engine the engine timers can count.
     void AddMainEngine() {
@@ -93,6 +97,7 @@ TEST_F(ProbeTest, ScenarioLinesRestoreTheListsAndTheirServingUpdaters) {
         LoadProbe("P1", {"STATUS Orbiting Earth", "updaters U_A U_B, NOT_A_NAME, ",
                          "TIMERS_1T H_DUST:12.5, E_ONE:3.000000, BOGUS:1, ", "TIMERS_1T_ME E_TWO:4.000000, ",
                          "TIMERS_P1S H_AWARENESS, ", "TIMERS_P10M H_CHK_SPOTLIGHTS, "});
+    Park(p);
     EXPECT_EQ(p.UpdatersText(), "U_A, U_B, H_TIMER_1T, H_TIMER_1T_ME, H_TIMER_P1S, H_TIMER_P10M, ");
     EXPECT_EQ(p.OneShotTimersText(), "H_DUST:12.500000, E_ONE:3.000000, ");
     EXPECT_EQ(p.EngineTimersText(), "E_TWO:4.000000, ");

@@ -16,8 +16,10 @@ TEST_F(ScenarioTest, FirstPassKeysAreComparedByPrefixWithoutCaseInTheirOrder) {
     EXPECT_TRUE(p.ShowMet);
     EXPECT_THAT(p.EngineEvents, ElementsAre(VesselCall(&HULLKIT::H_DUST)));
     EXPECT_THAT(p.OneShotEvents, ElementsAre(VesselCall(&HULLKIT::H_UNPARK)));
-    // Restored updaters first, then those of the set-up in its order.
-    EXPECT_EQ(p.UpdatersText(), "H_TIMER_1T_ME, H_TIMER_1T, H_MET, H_ANIM, H_VC, H_ME_WATCH, ");
+    // Restored updaters first, then those of the set-up in its order, up to
+    // the watches of a vessel at the Earth's centre.
+    EXPECT_EQ(p.UpdatersText(), "H_TIMER_1T_ME, H_TIMER_1T, H_MET, H_ANIM, H_VC, H_ME_WATCH, H_TIMER_P1S, "
+                                "H_GROUND_WATCH, H_ATM_FLT, H_CONTRAIL, ");
     EXPECT_DOUBLE_EQ(p.ImuYawRef.y, 1.0);
     EXPECT_DOUBLE_EQ(p.ImuPitchRef.x, 1.0);
     // A short line fills what it reaches and leaves the rest.
@@ -80,8 +82,11 @@ TEST_F(ScenarioTest, ResourceLinesOfTheScenarioGoBackOutAsTheyCameIn) {
     ProbeVessel &p = Load({"RESOURCE Tanks Main 10", "RESOURCE Tanks Extra 5", "RESOURCE AeroRecords A 1"});
 
     EXPECT_DOUBLE_EQ(p.TankTable.Find("Main")->fuel, 10.0);
-    EXPECT_THAT(FrameworkLines(p), ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, ", "RESOURCE Tanks Main 10",
-                                               "RESOURCE Tanks Extra 5"));
+    EXPECT_THAT(FrameworkLines(p),
+                ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, H_TIMER_P1S, H_GROUND_WATCH, H_ATM_FLT, "
+                            "H_CONTRAIL, ",
+                            "TIMERS_P1S H_PLN_ENTER_EXIT, H_ATM_ENTER_EXIT, ", "RESOURCE Tanks Main 10",
+                            "RESOURCE Tanks Extra 5"));
 }
 
 TEST_F(ScenarioTest, MalformedLinesLeaveTheDefaults) {

@@ -18,9 +18,13 @@ std::vector<std::string> Keys(const std::vector<std::string> &lines) {
 
 } // namespace
 
+// The probe stands at the Earth's centre: within reach of the ground and in air.
 TEST_F(ScenarioTest, FreshVesselWritesOnlyTheUpdatersItRuns) {
     ProbeVessel &p = Load();
-    EXPECT_THAT(FrameworkLines(p), ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, "));
+    EXPECT_THAT(FrameworkLines(p),
+                ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, H_TIMER_P1S, H_GROUND_WATCH, H_ATM_FLT, "
+                            "H_CONTRAIL, ",
+                            "TIMERS_P1S H_PLN_ENTER_EXIT, H_ATM_ENTER_EXIT, "));
 }
 
 TEST_F(ScenarioTest, SaveInMidFlightComesBackToTheSameStateAndText) {
@@ -67,7 +71,7 @@ TEST_F(ScenarioTest, SaveInMidFlightComesBackToTheSameStateAndText) {
     EXPECT_THAT(saved, Contains("FAILURES 2 1 0 1 0"));
     EXPECT_THAT(saved, Contains("TIMERS_1T H_DUST:3.250000, H_UNPARK:1.000000, "));
     EXPECT_THAT(saved, Contains("TIMERS_1T_ME H_NO_ACT:12.500000, "));
-    EXPECT_THAT(saved, Contains("TIMERS_P1S H_AWARENESS, "));
+    EXPECT_THAT(saved, Contains("TIMERS_P1S H_PLN_ENTER_EXIT, H_ATM_ENTER_EXIT, H_AWARENESS, "));
     // Controllers first, then meshes, tanks and groups; each item ends with a blank.
     EXPECT_THAT(saved, Contains("RES_MODS AnimControls HatchCtl:1 "));
     EXPECT_THAT(saved, Contains("RES_MODS Meshes Hull:Flags!0, Door:Load!1, "));
@@ -94,12 +98,12 @@ TEST_F(ScenarioTest, ValuesAtTheirDefaultsAreNotWritten) {
     p.Temperature = 20.0;
     p.MissionTime = -1.0e8;
     p.SetPropellantMass(p.TankTable.Find("Rcs")->handle, 100.0);
-    EXPECT_THAT(Keys(FrameworkLines(p)), ElementsAre("UPDATERS"));
+    EXPECT_THAT(Keys(FrameworkLines(p)), ElementsAre("UPDATERS", "TIMERS_P1S"));
 
     // The thresholds themselves: glow off keeps the temperature out.
     p.MissionTime = 0.0;
     p.Temperature = 20.1;
-    EXPECT_THAT(Keys(FrameworkLines(p)), ElementsAre("MET", "UPDATERS"));
+    EXPECT_THAT(Keys(FrameworkLines(p)), ElementsAre("MET", "UPDATERS", "TIMERS_P1S"));
     p.ReentryGlowEnabled = true;
     EXPECT_THAT(FrameworkLines(p), Contains("TEMPERATURE 20.1"));
 }

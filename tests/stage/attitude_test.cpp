@@ -161,10 +161,11 @@ TEST_F(AttitudeTest, MissionClockAndAscentReference) {
     EXPECT_DOUBLE_EQ(k.MissionTime, 10.0);
     EXPECT_STREQ(oapiDebugString(), "T+10");
 
-    // The nose is on the pitch reference (0, 0, 1), square to the yaw one.
-    EXPECT_NEAR(k.PitchAngle(), M_PI / 2, 1e-9);
-    EXPECT_NEAR(k.YawAngle(), 0.0, 1e-9);
-    EXPECT_NEAR(k.RollAngle(), 0.0, 1e-9);
+    // The nose is on the pitch reference (0, 0, 1), square to the yaw one;
+    // the thin air at 200 km has turned it by a few arc seconds.
+    EXPECT_NEAR(k.PitchAngle(), M_PI / 2, 1e-4);
+    EXPECT_NEAR(k.YawAngle(), 0.0, 1e-4);
+    EXPECT_NEAR(k.RollAngle(), 0.0, 1e-4);
     k.PitchProfile = {{PITCH_CONST, 0, 100, 5, 0}, {PITCH_LIN, 100, 200, 10, 20}};
     k.MissionTime = 150;
     EXPECT_NEAR(k.AttitudeStep(), 15 * kRad, 1e-12);
@@ -172,7 +173,7 @@ TEST_F(AttitudeTest, MissionClockAndAscentReference) {
     EXPECT_EQ(k.AttitudeStep(), 0.0);
     k.AttError.x = k.PitchAngle();
     k.AttitudeControlStep();
-    EXPECT_NEAR(k.AttErrorDeg.x, -90.0, 1e-9);
+    EXPECT_NEAR(k.AttErrorDeg.x, -90.0, 0.01);
     // The capture, above its 150 km target without thrust, latches at once
     // and then holds the level flight path.
     k.OrbitInsertRadius = 6371000.0 + 150000.0;

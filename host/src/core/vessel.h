@@ -40,6 +40,11 @@ class Vessel : public Object {
     bool landed = false;
     double surfLng = 0.0, surfLat = 0.0, surfHdg = 0.0; // while landed [rad]
     Vessel *parent = nullptr;                           // set while hung on a parent's attachment
+    // The vessel in whose callback this one was made at run time, and that
+    // callback's serial number (World::CallSerial); null and 0 for a vessel
+    // of the scenario.
+    const Vessel *creator = nullptr;
+    unsigned long creatorCall = 0;
     // The free state as a scenario or the module last placed it, told against
     // `body`. While the vessel's global state is still the one it gave, the
     // vessel reports these values rather than ones computed back from the

@@ -134,6 +134,8 @@ void World::LoadVesselState(Vessel &v, const std::vector<std::string> &lines) {
 Vessel &World::CreateVessel(const std::string &name, const std::string &className,
                             const VESSELSTATUS2 &state) {
     Vessel &v = ConstructVessel(name, className);
+    v.creator = running_;
+    v.creatorCall = call_;
     if (events)
         events->OnCreated(v);
     physics::SetStatus2(*this, v, state);
@@ -144,6 +146,8 @@ Vessel &World::CreateVessel(const std::string &name, const std::string &classNam
 Vessel &World::CreateVessel(const std::string &name, const std::string &className,
                             const VESSELSTATUS &state) {
     Vessel &v = ConstructVessel(name, className);
+    v.creator = running_;
+    v.creatorCall = call_;
     if (events)
         events->OnCreated(v);
     physics::SetStatus(*this, v, state);
@@ -168,7 +172,24 @@ void World::PostCreate(Vessel &v) {
         FlushDeletions();
 }
 
+void World::NoteSelfDeletion(Vessel &v) {
+    std::vector<const Vessel *> wrecks;
+    bool blast = false;
+    for (const auto &other : vessels_) {
+        if (other->creator != &v || other->creatorCall != call_)
+            continue;
+        wrecks.push_back(other.get());
+        for (const auto &stream : other->streams)
+            blast = blast || (stream->level && *stream->level > 0.0);
+    }
+    if (!wrecks.empty())
+        events->OnCrash(v, blast, wrecks);
+}
+
 void World::RequestDelete(Vessel &v) {
+    if (events && &v == running_ && call_ != 0 &&
+        std::find(pendingDelete_.begin(), pendingDelete_.end(), &v) == pendingDelete_.end())
+        NoteSelfDeletion(v);
     if (std::find(pendingDelete_.begin(), pendingDelete_.end(), &v) == pendingDelete_.end())
         pendingDelete_.push_back(&v);
     if (callbackDepth_ == 0)
@@ -352,6 +373,7 @@ void World::DeleteNow(Vessel &v) {
 CallbackScope::~CallbackScope() {
     --world_.callbackDepth_;
     world_.running_ = outer_;
+    world_.call_ = outerCall_;
 }
 
 } // namespace hullhost

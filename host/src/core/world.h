@@ -162,6 +162,9 @@ class World {
     WorldEvents *events = nullptr;
     // The vessel whose constructor or callback is running; null outside them.
     Vessel *RunningVessel() const { return running_; }
+    // The serial number of the running vessel callback, new for each; 0
+    // outside them.
+    unsigned long CallSerial() const { return call_; }
 
   private:
     void DeleteNow(Vessel &v);
@@ -175,6 +178,10 @@ class World {
     bool manualFiring_ = false;        // attitude thrusters fire from the keys in this frame
     double offer_ = 0.0;               // the raise offered to the vessels in this frame; 0: none
     Vessel *running_ = nullptr;
+    unsigned long call_ = 0, calls_ = 0; // the running callback's serial, and the last given
+    // Tells the listener of a crash, when `v` deletes itself in the callback
+    // that made vessels.
+    void NoteSelfDeletion(Vessel &v);
 
     std::string root_;
     std::vector<std::unique_ptr<Vessel>> vessels_;
@@ -187,10 +194,13 @@ class World {
 // With a vessel, that vessel's constructor or callback runs in the scope.
 class CallbackScope {
   public:
-    explicit CallbackScope(World &w, Vessel *running = nullptr) : world_(w), outer_(w.running_) {
+    explicit CallbackScope(World &w, Vessel *running = nullptr)
+        : world_(w), outer_(w.running_), outerCall_(w.call_) {
         ++world_.callbackDepth_;
-        if (running)
+        if (running) {
             world_.running_ = running;
+            world_.call_ = ++world_.calls_;
+        }
     }
     ~CallbackScope();
     CallbackScope(const CallbackScope &) = delete;
@@ -199,6 +209,7 @@ class CallbackScope {
   private:
     World &world_;
     Vessel *outer_;
+    unsigned long outerCall_;
 };
 
 } // namespace hullhost

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "OrbiterAPI.h"
 
@@ -45,6 +46,14 @@ class WorldEvents {
     // A sound library acted on a wave; listeners that don't care needn't
     // override it.
     virtual void OnSound(const SoundEvent &) {}
+    // A vessel deleted itself in the callback in which it made `wrecks`:
+    // a crash. `blast`: one of the wrecks shows a particle stream at a level
+    // above 0, an explosion. The vessel still exists.
+    virtual void OnCrash(const Vessel &v, bool blast, const std::vector<const Vessel *> &wrecks) = 0;
+    // What a vessel reported to the controller vessel that passed it on
+    // (hullsimReport): the reporting vessel, the report's kind, text and place.
+    virtual void OnReport(const std::string &vessel, int kind, const std::string &text, double lat,
+                          double lng, double alt) = 0;
 };
 
 } // namespace hullhost

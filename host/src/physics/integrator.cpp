@@ -31,6 +31,7 @@ constexpr double kContactRange = 1000.0;  // [m] below which the touchdown point
 constexpr double kRestSpeed = 0.05;       // [m/s] against the ground, to count as landed
 constexpr double kRestRate = 0.005;       // [rad/s] against the ground's rotation
 constexpr double kFreeTurnPressure = 1.0; // [Pa] of dynamic pressure below which the air can't turn a vessel
+constexpr double kTouchDepth = 0.001;     // [m] into the ground at the end of a touchdown's frame
 
 struct ModuleForces {
     VECTOR3 force{0, 0, 0};
@@ -117,6 +118,22 @@ RigidRate Combined(const RigidRate &k1, const RigidRate &k2, const RigidRate &k3
     return r;
 }
 
+// A state carried along with the body's rotation (`spin`, global) for `dt`.
+RigidState CoRotated(const RigidState &s, const VECTOR3 &spin, double dt) {
+    const double rate = length(spin);
+    if (rate <= 0.0 || dt <= 0.0) {
+        return s;
+    }
+    // The ground moves at crossp(r, spin): a turn by -rate * dt about the axis
+    // in the right-handed form.
+    const VECTOR3 k = spin / rate;
+    const double a = -rate * dt, c = std::cos(a), sn = std::sin(a), t = 1.0 - c;
+    const MATRIX3 turn{t * k.x * k.x + c,        t * k.x * k.y - sn * k.z, t * k.x * k.z + sn * k.y,
+                       t * k.x * k.y + sn * k.z, t * k.y * k.y + c,        t * k.y * k.z - sn * k.x,
+                       t * k.x * k.z - sn * k.y, t * k.y * k.z + sn * k.x, t * k.z * k.z + c};
+    return {mul(turn, s.r), mul(turn, s.v), mul(turn, s.R), s.w};
+}
+
 bool AtRest(const Vessel &v, const Body &ref, const RigidState &s) {
     const double speed = length(s.v - SurfaceVelocity(ref, s.r));
     const double turn = length(s.w - tmul(s.R, SpinVector(ref)));
@@ -161,24 +178,51 @@ void IntegrateFree(World &world, const FrameSnapshots &snapshots, Vessel &v, dou
         if (thrust.timeToEmpty < h) {
             h = thrust.timeToEmpty; // the burn ends within the step: end the step with it
         }
-        const BodySnapshot mid = snapshots.At(t0 + tau + 0.5 * h);
-        const BodySnapshot end = snapshots.At(t0 + tau + h);
-        const RigidRate k1 = Derivative(v, ref, start, loads, 0.0, s);
-        const RigidRate k2 = Derivative(v, ref, mid, loads, 0.5 * h, Advanced(s, k1, 0.5 * h));
-        const RigidRate k3 = Derivative(v, ref, mid, loads, 0.5 * h, Advanced(s, k2, 0.5 * h));
-        const RigidRate k4 = Derivative(v, ref, end, loads, h, Advanced(s, k3, h));
+        BodySnapshot end;
         const RigidState before = s;
-        s = Advanced(s, Combined(k1, k2, k3, k4), h);
-        if (torqueFree) {
-            s.R = before.R;
-            s.w = before.w;
-            RotateFree(s.R, s.w, PrincipalMoments(v, loads.mass), h);
-        } else {
-            s.R = Orthonormalised(s.R);
+        const auto stepped = [&](double dt) {
+            const BodySnapshot mid = snapshots.At(t0 + tau + 0.5 * dt);
+            end = snapshots.At(t0 + tau + dt);
+            const RigidRate k1 = Derivative(v, ref, start, loads, 0.0, s);
+            const RigidRate k2 = Derivative(v, ref, mid, loads, 0.5 * dt, Advanced(s, k1, 0.5 * dt));
+            const RigidRate k3 = Derivative(v, ref, mid, loads, 0.5 * dt, Advanced(s, k2, 0.5 * dt));
+            const RigidRate k4 = Derivative(v, ref, end, loads, dt, Advanced(s, k3, dt));
+            RigidState next = Advanced(s, Combined(k1, k2, k3, k4), dt);
+            if (torqueFree) {
+                next.R = before.R;
+                next.w = before.w;
+                RotateFree(next.R, next.w, PrincipalMoments(v, loads.mass), dt);
+            } else {
+                next.R = Orthonormalised(next.R);
+            }
+            return next;
+        };
+        RigidState next = stepped(h);
+        // A touchdown ends the vessel's flight in the frame at the moment of
+        // contact, a millimetre into the ground, so that its module sees the
+        // speeds it came down with rather than what the ground left of them.
+        bool touchdown = false;
+        if (ref && gap > 0.0) {
+            const double after = LowestPointHeight(v, *ref, next.r, next.R);
+            if (after <= 0.0) {
+                const double fraction = std::min(1.0, (gap + kTouchDepth) / (gap - after));
+                if (fraction < 1.0) {
+                    h *= fraction;
+                    next = stepped(h);
+                }
+                touchdown = LowestPointHeight(v, *ref, next.r, next.R) <= 0.0;
+            }
         }
+        s = next;
         BurnPropellant(v, h);
         tau = simdt - tau - h < kMinStep ? simdt : tau + h;
         start = end;
+        if (touchdown) {
+            // The rest of the frame the vessel keeps its place and its
+            // velocity against the turning ground.
+            s = CoRotated(s, SpinVector(*ref), simdt - tau);
+            tau = simdt;
+        }
         if (loads.contact && ref && AtRest(v, *ref, s)) {
             LandHere(v, *v.ref, s.r, s.R, t0 + tau);
             PlaceLanded(v, t0 + simdt);

@@ -101,4 +101,17 @@ void EventLog::OnSound(const SoundEvent &e) {
                   {"volume", play ? ordered_json(e.volume) : ordered_json(nullptr)}});
 }
 
+void EventLog::OnCrash(const Vessel &v, bool blast, const std::vector<const Vessel *> &wrecks) {
+    nlohmann::ordered_json names = nlohmann::ordered_json::array();
+    for (const Vessel *w : wrecks)
+        names.push_back(w->Name());
+    Add("crash", {{"vessel", v.Name()}, {"blast", blast}, {"wrecks", names}});
+}
+
+void EventLog::OnReport(const std::string &vessel, int kind, const std::string &text, double lat, double lng,
+                        double alt) {
+    Add("report",
+        {{"vessel", vessel}, {"reportKind", kind}, {"text", text}, {"lat", lat}, {"lng", lng}, {"alt", alt}});
+}
+
 } // namespace hullhost::sim

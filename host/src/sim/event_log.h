@@ -21,6 +21,13 @@
 //                            wave on the link of `vessel` (the listener);
 //                            file null when none is loaded, loop and volume
 //                            null but for a play
+//   crash     vessel, blast, wrecks
+//                            a vessel crashed and left the wrecks named (a
+//                            list); blast: they show an explosion
+//   report    vessel, reportKind, text, lat, lng, alt
+//                            a vessel's report (message 13) as the controller
+//                            vessel received it: its kind, text, latitude and
+//                            longitude [deg] and altitude above ground [m]
 //
 // The log is kept in memory and written whole at the end, also when the run
 // fails midway.
@@ -67,6 +74,9 @@ class EventLog final : public WorldEvents {
                     double velocity) override;
     void OnNavmode(const Vessel &v, int mode, bool active) override;
     void OnSound(const SoundEvent &e) override;
+    void OnCrash(const Vessel &v, bool blast, const std::vector<const Vessel *> &wrecks) override;
+    void OnReport(const std::string &vessel, int kind, const std::string &text, double lat, double lng,
+                  double alt) override;
 
   private:
     using Field = std::pair<const char *, nlohmann::ordered_json>;
