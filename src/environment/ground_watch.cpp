@@ -57,12 +57,7 @@ void HULLKIT::OnPark() {
 // Holds the vessel where it stands. A vessel whose touchdown plane lies
 // across its z axis stands on its tail: its heading is that of its belly.
 void HULLKIT::H_PARK() {
-    VESSELSTATUS2 status{};
-    status.version = 2;
-    status.status = 1;
-    status.rbody = GetSurfaceRef();
-    double radius = 0.0;
-    GetEquPos(status.surf_lng, status.surf_lat, radius);
+    VESSELSTATUS2 status = LandedStatusHere();
     status.arot.x = 10.0;
     const VECTOR3 &p1 = TouchdownPts[0], &p2 = TouchdownPts[1], &p3 = TouchdownPts[2];
     const VECTOR3 n = crossp(p3 - p1, p2 - p1);

@@ -174,6 +174,8 @@ class HULLKIT : public VESSEL3 {
     // Releases the vessel on the point at `velocity` m/s along the point.
     void DetachChildRec(CHILD_REC &rec, double velocity);
     // The child's landed place: this vessel's.
+    // A landed status at the vessel's place on its surface body, heading 0.
+    VESSELSTATUS2 LandedStatusHere();
     void MatchLandedState(CHILD_REC &rec);
     // Makes a framework vessel at run time, `<own name>-<suffix>` of the class
     // `<class folder>\<className>`, and hangs it on `carrier`'s record

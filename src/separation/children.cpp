@@ -62,13 +62,18 @@ void HULLKIT::DetachChildRec(CHILD_REC &rec, double velocity) {
         static_cast<HULLKIT *>(rec.ChildVessel)->OnDetached();
 }
 
-void HULLKIT::MatchLandedState(CHILD_REC &rec) {
+VESSELSTATUS2 HULLKIT::LandedStatusHere() {
     VESSELSTATUS2 status{};
     status.version = 2;
     status.status = 1;
     status.rbody = GetSurfaceRef();
     double radius = 0.0;
     GetEquPos(status.surf_lng, status.surf_lat, radius);
+    return status;
+}
+
+void HULLKIT::MatchLandedState(CHILD_REC &rec) {
+    VESSELSTATUS2 status = LandedStatusHere();
     oapiGetHeading(GetHandle(), &status.surf_hdg);
     rec.ChildVessel->DefSetStateEx(&status);
 }
