@@ -1,34 +1,7 @@
 // The vessel's step must not allocate: every heap allocation while steps run
 // is counted.
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
+#include "allocation_counter.h"
 #include "probe_fixture.h"
-
-namespace {
-std::atomic<long> allocations{0};
-}
-
-void *operator new(std::size_t size) {
-    ++allocations;
-    if (void *p = std::malloc(size ? size : 1))
-        return p;
-    throw std::bad_alloc();
-}
-// Modules make their vessels with the nothrow form. It takes its memory from
-// malloc too, so that the replaced delete below frees what it was given.
-void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
-    ++allocations;
-    return std::malloc(size ? size : 1);
-}
-// The counting operator new takes its memory from malloc; GCC can't see that
-// through inlined string code and would warn of a mismatch.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
-void operator delete(void *p) noexcept { std::free(p); }
-void operator delete(void *p, std::size_t) noexcept { std::free(p); }
-#pragma GCC diagnostic pop
 
 TEST_F(ProbeTest, StepsWithRunningTimersAllocateNothing) {
     ProbeVessel &p = LoadProbe("P1");

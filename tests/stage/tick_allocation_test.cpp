@@ -1,30 +1,7 @@
 // The flight program's ticks must not allocate: every heap allocation while
 // the stage's steps run is counted.
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
+#include "../frame/allocation_counter.h"
 #include "stage_fixture.h"
-
-namespace {
-std::atomic<long> allocations{0};
-}
-
-void *operator new(std::size_t size) {
-    ++allocations;
-    if (void *p = std::malloc(size ? size : 1))
-        return p;
-    throw std::bad_alloc();
-}
-void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
-    ++allocations;
-    return std::malloc(size ? size : 1);
-}
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
-void operator delete(void *p) noexcept { std::free(p); }
-void operator delete(void *p, std::size_t) noexcept { std::free(p); }
-#pragma GCC diagnostic pop
 
 namespace {
 
