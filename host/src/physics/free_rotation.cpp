@@ -11,6 +11,9 @@ namespace {
 
 // The most a substep may change the rate, against the rate itself.
 constexpr double kRateChangePerStep = 0.1;
+// However fast the body tumbles, a call takes at most this many substeps:
+// past it the turn is coarser, but the momentum still holds exactly.
+constexpr double kMaxSubsteps = 1000.0;
 
 // Euler's equations without torque, as the flight model's derivative has them.
 VECTOR3 RateChange(const VECTOR3 &w, const VECTOR3 &inertia) {
@@ -43,7 +46,8 @@ void RotateFree(MATRIX3 &R, VECTOR3 &w, const VECTOR3 &inertia, double h) {
         const double change = length(k1), rate = length(w);
         double step = left;
         if (change > 0.0)
-            step = std::min(step, kRateChangePerStep * std::max(rate, 1e-9) / change);
+            step = std::min(left,
+                            std::max(h / kMaxSubsteps, kRateChangePerStep * std::max(rate, 1e-9) / change));
         const VECTOR3 k2 = RateChange(w + k1 * (0.5 * step), inertia);
         const VECTOR3 k3 = RateChange(w + k2 * (0.5 * step), inertia);
         const VECTOR3 k4 = RateChange(w + k3 * step, inertia);
