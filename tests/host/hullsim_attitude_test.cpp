@@ -91,9 +91,9 @@ TEST_F(HullsimAttitudeTest, EachModeTurnsTheStageAndHoldsIt) {
     }
 }
 
-// A user holding the acceleration at A: raised again after each drop, never
-// over a cap that a vessel keeps. The probe drops it to 2 in its first two
-// frames, or caps it at 10 in every frame.
+// A user holding the acceleration at A: raised from the first second of the
+// run on, again after each drop, never over a cap that a vessel keeps. The probe drops it to 2 in its first
+// two frames, or caps it at 10 in every frame.
 TEST_F(HullsimAttitudeTest, WarpRaisesAfterDropsAndKeepsUnderACap) {
     struct Case {
         const char *line;
@@ -101,14 +101,15 @@ TEST_F(HullsimAttitudeTest, WarpRaisesAfterDropsAndKeepsUnderACap) {
         int frames;
     };
     const Case cases[] = {
-        {"PROBE_WARP 2", {2, 20, 100}, 2 + 1 + 1 + 37}, // 0.02+0.04+0.04+0.4, then 100 * 0.02 s frames
-        {"PROBE_CAP 10", {10}, 1 + 10},                 // 0.02, then 10 * 0.02 s frames
+        // 0.02, 0.04 until the first raise a second into the run, 0.4, then 100 * 0.02 s frames
+        {"PROBE_WARP 2", {2, 20, 100}, 1 + 50 + 1 + 37},
+        {"PROBE_CAP 10", {10}, 51 + 10}, // 51 * 0.02 s, the last one with the first raise, then 10 * 0.2 s
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.line);
         WriteText(Root() + "/Scenarios/warp.scn",
                   std::string("BEGIN_SHIPS\nP:Test\\Probe\n  ") + c.line + "\nEND\nEND_SHIPS\n");
-        const double seconds = c.accels.size() == 3 ? 0.5 + 74.0 : 2.02;
+        const double seconds = c.accels.size() == 3 ? 0.02 + 50 * 0.04 + 0.4 + 74.0 : 51 * 0.02 + 10 * 0.2;
         const hosttest::Result r =
             Run({"run", "warp", "--root", Root(), "--for", std::to_string(seconds), "--warp", "100", "--save",
                  dir / "out.scn", "--events", dir / "events.jsonl", "--state", dir / "state.json"});
@@ -118,7 +119,8 @@ TEST_F(HullsimAttitudeTest, WarpRaisesAfterDropsAndKeepsUnderACap) {
             accels.push_back(e["value"].get<double>());
         EXPECT_EQ(accels, c.accels);
         EXPECT_NE(ReadText(dir / "out.scn").find("PROBE_FRAMES " + std::to_string(c.frames)),
-                  std::string::npos);
+                  std::string::npos)
+            << ReadText(dir / "out.scn");
     }
     // The bodies of the state, placed like the vessels: against the Earth.
     const json bodies = json::parse(ReadText(dir / "state.json"))["bodies"];

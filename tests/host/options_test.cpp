@@ -9,6 +9,7 @@
 
 using hullhost::sim::Command;
 using hullhost::sim::ParseCommandLine;
+using hullhost::sim::SaveAt;
 using hullhost::sim::UsageError;
 
 namespace {
@@ -25,30 +26,32 @@ std::string OptionError(const std::vector<std::string> &args) {
 // The options as one record, to compare whole.
 auto Fields(const hullhost::sim::RunOptions &r) {
     return std::tuple(r.scenario, r.root, r.seconds, r.dt, r.accel, r.warp, r.seed, r.savePath, r.statePath,
-                      r.keysPath, r.logPath, r.telemetryPath, r.plotPath, r.tracks, r.telemetryInterval);
+                      r.keysPath, r.logPath, r.telemetryPath, r.plotPath, r.tracks, r.telemetryInterval,
+                      r.saveAts);
 }
 
 TEST(OptionsTest, DefaultsAndEveryOption) {
     Command plain = ParseCommandLine({"run", "demo"}, "/default/root");
     EXPECT_FALSE(plain.help);
-    EXPECT_EQ(Fields(plain.run),
-              std::tuple("demo", "/default/root", 0.0, 0.02, 1.0, 0.0, std::optional<unsigned>(), "", "", "",
-                         "", "", "", std::vector<std::string>{}, 1.0));
+    EXPECT_EQ(Fields(plain.run), std::tuple("demo", "/default/root", 0.0, 0.02, std::optional<double>(), 0.0,
+                                            std::optional<unsigned>(), "", "", "", "", "", "",
+                                            std::vector<std::string>{}, 1.0, std::vector<SaveAt>{}));
 
     // --track takes one name each time, so the scenario after it stays the
     // scenario; a name given twice is recorded once.
-    Command all =
-        ParseCommandLine({"run",   "--root",      "r",      "--for",   "12.5",       "--dt",
-                          "0.1",   "--accel",     "10",     "--seed",  "4294967295", "--save",
-                          "s.scn", "--state",     "s.json", "--keys",  "k.txt",      "--log",
-                          "l.log", "--telemetry", "t.csv",  "--plot",  "p.svg",      "--track",
-                          "B",     "--track",     "A",      "--track", "B",          "--telemetry-interval",
-                          "0.5",   "--track",     "C",      "--warp",  "1000",       "x.scn"},
-                         "/default/root");
-    EXPECT_EQ(Fields(all.run),
-              std::tuple("x.scn", "r", 12.5, 0.1, 10.0, 1000.0, std::optional<unsigned>(4294967295u), "s.scn",
-                         "s.json", "k.txt", "l.log", "t.csv", "p.svg",
-                         std::vector<std::string>{"B", "A", "C"}, 0.5));
+    Command all = ParseCommandLine(
+        {"run",   "--root",      "r",         "--for",   "12.5",       "--dt",
+         "0.1",   "--accel",     "10",        "--seed",  "4294967295", "--save",
+         "s.scn", "--state",     "s.json",    "--keys",  "k.txt",      "--log",
+         "l.log", "--telemetry", "t.csv",     "--plot",  "p.svg",      "--track",
+         "B",     "--track",     "A",         "--track", "B",          "--telemetry-interval",
+         "0.5",   "--track",     "C",         "--warp",  "1000",       "--save-at",
+         "12",    "b.scn",       "--save-at", "2",       "a.scn",      "x.scn"},
+        "/default/root");
+    EXPECT_EQ(Fields(all.run), std::tuple("x.scn", "r", 12.5, 0.1, std::optional<double>(10.0), 1000.0,
+                                          std::optional<unsigned>(4294967295u), "s.scn", "s.json", "k.txt",
+                                          "l.log", "t.csv", "p.svg", std::vector<std::string>{"B", "A", "C"},
+                                          0.5, std::vector<SaveAt>{{2.0, "a.scn"}, {12.0, "b.scn"}}));
     // Few frames bound the samples too: one a frame at most.
     EXPECT_EQ(ParseCommandLine({"run", "x", "--telemetry", "t.csv", "--for", "1e7", "--accel", "1e4",
                                 "--telemetry-interval", "0.1"},
@@ -61,9 +64,9 @@ TEST(OptionsTest, HelpListsTheRunOptions) {
     for (auto args : {std::vector<std::string>{"--help"}, {"-h"}, {"run", "--help"}}) {
         Command cmd = ParseCommandLine(args, "/root");
         EXPECT_TRUE(cmd.help);
-        for (const char *word :
-             {"run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--warp", "--seed", "--save",
-              "--state", "--keys", "--log", "--telemetry", "--track", "--telemetry-interval", "--plot"})
+        for (const char *word : {"run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--warp", "--seed",
+                                 "--save", "--save-at", "--state", "--keys", "--log", "--telemetry",
+                                 "--track", "--telemetry-interval", "--plot"})
             EXPECT_NE(cmd.helpText.find(word), std::string::npos) << word << " in\n" << cmd.helpText;
     }
 }
@@ -90,8 +93,12 @@ TEST(OptionsTest, BadCommandLinesAreUsageErrors) {
         {{"run", "x", "--plot", "p.svg", "--telemetry-interval", "1s"},
          "--telemetry-interval needs a number above 0, not '1s'"},
         {{"run", "x", "--track", "A"}, "--track needs --telemetry, --plot, --orbit-view or --summary"},
-        {{"run", "x", "--telemetry-interval", "5"}, "--telemetry-interval needs --telemetry, --plot or --orbit-view"},
+        {{"run", "x", "--telemetry-interval", "5"},
+         "--telemetry-interval needs --telemetry, --plot or --orbit-view"},
         {{"run", "x", "--telemetry", "t.csv", "--track", ""}, "--track needs a vessel name"},
+        {{"run", "x", "--for", "10", "--save-at", "11", "a.scn"},
+         "--save-at 11 is after the run's end (--for 10)"},
+        {{"run", "x", "--save-at", "-1", "a.scn"}, "--save-at needs a number of 0 or more, not '-1'"},
         {{"run", "x", "--telemetry", "t.csv", "--for", "2e7", "--dt", "1", "--telemetry-interval", "0.1"},
          "--telemetry-interval 0.1 takes more than 10000000 samples over --for 2e7; raise it"},
     };

@@ -16,7 +16,10 @@ namespace hullhost {
 
 namespace {
 World *current = nullptr;
-}
+// The real time [s] from which on the warp offers its raises: a frame that
+// begins then or later.
+constexpr double kFirstWarpPress = 1.0;
+} // namespace
 
 World::World(std::string root) : modules(root), root_(std::move(root)) {
     if (current)
@@ -280,7 +283,8 @@ void World::Frame(double realDt) {
     {
         CallbackScope scope(*this);
         DeliverKeys();
-        offer_ = warp > accel ? std::min(warp, accel * 10.0) : 0.0;
+        const bool pressable = syst - realDt > kFirstWarpPress - 1e-9;
+        offer_ = warp > accel && pressable ? std::min(warp, accel * 10.0) : 0.0;
         // Vessels created during the walk take their first step next frame.
         const size_t count = vessels_.size();
         for (size_t i = 0; i < count && i < vessels_.size(); ++i) {

@@ -77,7 +77,10 @@ class World {
     // of the key, is offered to the vessels in their clbkPreStep: they read
     // it as the acceleration, and it holds from the next frame on unless one
     // of them sets another. A vessel that caps the acceleration thus keeps
-    // every later frame at its cap.
+    // every later frame at its cap. The first offer comes after the first
+    // second of real time, as a user's first press would: the vessels have
+    // stepped by then and hold their caps, so that a run resumed from a save
+    // goes on at the pace it was saved at.
     double warp = 0.0;
     // The acceleration the vessels read: the offered raise while one stands.
     double VisibleAccel() const { return offer_ > 0.0 ? offer_ : accel; }

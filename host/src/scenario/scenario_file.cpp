@@ -132,6 +132,8 @@ class Parser {
             auto [unit, value] = SplitWord(rest);
             if (EqualsNoCase(key, "Date") && EqualsNoCase(unit, "MJD"))
                 scn_.mjd = ParseMjd(value);
+            else if (EqualsNoCase(key, "TimeAccel"))
+                scn_.timeAccel = ParseTimeAccel(rest);
             else
                 scn_.environment.emplace_back(Trim(line));
         }
@@ -144,6 +146,16 @@ class Parser {
         if (value.empty() || ec != std::errc() || end != value.data() + value.size() || !std::isfinite(mjd))
             Fail(next_, "bad date " + Quoted(value) + ": Date MJD needs a number");
         return mjd;
+    }
+
+    double ParseTimeAccel(std::string_view value) const {
+        value = Trim(value);
+        double accel = 0.0;
+        auto [end, ec] = std::from_chars(value.data(), value.data() + value.size(), accel);
+        if (value.empty() || ec != std::errc() || end != value.data() + value.size() ||
+            !std::isfinite(accel) || accel <= 0.0)
+            Fail(next_, "bad time acceleration " + Quoted(value) + ": TimeAccel needs a number above 0");
+        return accel;
     }
 
     void ReadFocus() {
@@ -248,10 +260,12 @@ std::string ScenarioFile::Text() const {
             out << line << '\n';
         out << "END_DESC\n\n";
     }
-    if (mjd || !environment.empty()) {
+    if (mjd || timeAccel || !environment.empty()) {
         std::vector<std::string> lines;
         if (mjd)
             lines.push_back("Date MJD " + FormatNumber(*mjd));
+        if (timeAccel)
+            lines.push_back("TimeAccel " + FormatNumber(*timeAccel));
         lines.insert(lines.end(), environment.begin(), environment.end());
         WriteSection(out, "ENVIRONMENT", lines);
     }

@@ -4,7 +4,9 @@
 //   BEGIN_DESC            free text, kept verbatim
 //   END_DESC
 //   BEGIN_ENVIRONMENT
-//     Date MJD 51544.5    other lines are kept verbatim
+//     Date MJD 51544.5
+//     TimeAccel 10        the time acceleration a run left off at; other
+//                         lines are kept verbatim
 //   END_ENVIRONMENT
 //   BEGIN_FOCUS
 //     Ship name
@@ -50,6 +52,7 @@ struct OtherSection {
 struct ScenarioFile {
     std::vector<std::string> description;
     std::optional<double> mjd;            // Date MJD
+    std::optional<double> timeAccel;      // TimeAccel, above 0
     std::vector<std::string> environment; // the other environment lines
     std::string focus;                    // empty: the first vessel
     std::vector<OtherSection> otherSections;
@@ -59,7 +62,8 @@ struct ScenarioFile {
 
     // Reads a scenario's text. `source` names it in error messages. Throws
     // ScenarioError for a malformed scenario: no vessels, a ship line without
-    // ':', a vessel block without END, an unclosed section, a bad date, a
+    // ':', a vessel block without END, an unclosed section, a bad date or time
+    // acceleration, a
     // vessel name given twice, a focus that names no vessel.
     static ScenarioFile Parse(std::string_view text, const std::string &source = "scenario");
     // Reads a scenario file. Throws ScenarioError when it can't be read.

@@ -56,6 +56,8 @@ ScenarioFile CaptureScenario(World &world, const ScenarioFile &base) {
     scn.environment = base.environment;
     scn.otherSections = base.otherSections;
     scn.mjd = world.Mjd();
+    if (world.accel != 1.0)
+        scn.timeAccel = world.accel;
     scn.focus = world.focus ? world.focus->Name() : std::string();
     // A module may create vessels while it saves; they are written too.
     for (size_t i = 0; i < world.Vessels().size(); ++i) {

@@ -76,6 +76,8 @@ void EventLog::OnKey(const Vessel &focus, DWORD key, bool down, const char *ksta
 
 void EventLog::OnTimeAccel(double value) { Add("timeaccel", {{"value", value}}); }
 
+void EventLog::OnSaved(const std::string &file) { Add("save", {{"file", file}}); }
+
 void EventLog::OnAttached(const Vessel &parent, const Vessel &child, const std::string &point) {
     Add("attached", {{"parent", parent.Name()}, {"child", child.Name()}, {"point", point}});
 }

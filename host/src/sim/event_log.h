@@ -28,6 +28,7 @@
 //                            a vessel's report (message 13) as the controller
 //                            vessel received it: its kind, text, latitude and
 //                            longitude [deg] and altitude above ground [m]
+//   save      file           the scenario was written to `file` (--save-at)
 //
 // The log is kept in memory and written whole at the end, also when the run
 // fails midway.
@@ -60,6 +61,8 @@ class EventLog final : public WorldEvents {
     void CheckEngines();
     // Writes the file (atomically); nothing without a path.
     void Write() const;
+    // The run wrote its scenario to `file` as the user named it.
+    void OnSaved(const std::string &file);
     // The events so far, as the file will hold them.
     const std::string &Text() const { return text_; }
 

@@ -18,6 +18,7 @@ namespace {
 // every bad value gets the same kind of message.
 struct NumberTexts {
     std::string seconds, dt, accel, warp, seed, interval;
+    std::vector<std::string> saveAts; // SECONDS FILE pairs
 };
 
 double ParseNumber(const std::string &option, const std::string &text, bool allowZero) {
@@ -51,7 +52,9 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
         ->type_name("SECONDS")
         ->default_str("0");
     run.add_option("--dt", n.dt, "Frame length [real s]")->type_name("SECONDS")->default_str("0.02");
-    run.add_option("--accel", n.accel, "Time acceleration at the start")->type_name("A")->default_str("1");
+    run.add_option("--accel", n.accel,
+                   "Time acceleration at the start; default: the scenario's TimeAccel, else 1")
+        ->type_name("A");
     run.add_option("--warp", n.warp,
                    "Hold the time acceleration at A as a user would, raising it again after each drop;\n"
                    "a cap that a vessel keeps still holds")
@@ -59,6 +62,13 @@ void AddRunOptions(CLI::App &run, RunOptions &o, NumberTexts &n) {
     run.add_option("--seed", n.seed, "srand(N) right after each vessel's constructor, for repeatable runs")
         ->type_name("N");
     run.add_option("--save", o.savePath, "Write the scenario at the end to FILE")->type_name("FILE");
+    run.add_option("--save-at", n.saveAts,
+                   "Also write the scenario as it stands at the end of the first frame that reaches\n"
+                   "SECONDS to FILE, when that frame ends; repeatable")
+        ->type_name("SECONDS FILE")
+        ->expected(2)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->allow_extra_args(false);
     run.add_option("--state", o.statePath, "Write the host-side state at the end to FILE as JSON")
         ->type_name("FILE");
     run.add_option("--hud", o.hudPath, "Render the focus vessel's head-up display at the end to FILE as SVG")
@@ -107,11 +117,23 @@ void CheckNumbers(const NumberTexts &n, RunOptions &o) {
         o.warp = ParseNumber("--warp", n.warp, false);
     if (!n.seed.empty())
         o.seed = ParseSeed(n.seed);
-    if (!std::isfinite(o.dt * o.accel))
+    const double accel = o.accel.value_or(1.0);
+    if (!std::isfinite(o.dt * accel))
         throw UsageError("--dt times --accel is too large");
     if (!std::isfinite(o.dt * o.warp))
         throw UsageError("--dt times --warp is too large");
-    if (FrameCount(o.seconds, o.dt * o.accel) > kMaxFrames)
+    for (std::size_t i = 0; i + 1 < n.saveAts.size(); i += 2) {
+        const double time = ParseNumber("--save-at", n.saveAts[i], true);
+        if (time > o.seconds)
+            throw UsageError("--save-at " + n.saveAts[i] + " is after the run's end (--for " +
+                             (n.seconds.empty() ? "0" : n.seconds) + ")");
+        if (n.saveAts[i + 1].empty())
+            throw UsageError("--save-at " + n.saveAts[i] + " needs a file");
+        o.saveAts.push_back({time, n.saveAts[i + 1]});
+    }
+    std::stable_sort(o.saveAts.begin(), o.saveAts.end(),
+                     [](const SaveAt &a, const SaveAt &b) { return a.time < b.time; });
+    if (FrameCount(o.seconds, o.dt * accel) > kMaxFrames)
         throw UsageError("--for " + n.seconds + " takes more than " +
                          std::to_string(static_cast<long>(kMaxFrames)) + " frames; raise --dt or --accel");
 }
@@ -134,7 +156,8 @@ void CheckTelemetry(const NumberTexts &n, RunOptions &o) {
             tracks.push_back(name);
     }
     o.tracks = std::move(tracks);
-    const double samples = std::min(FrameCount(o.seconds, o.dt * o.accel), o.seconds / o.telemetryInterval);
+    const double samples =
+        std::min(FrameCount(o.seconds, o.dt * o.accel.value_or(1.0)), o.seconds / o.telemetryInterval);
     if (output && samples > kMaxSamples)
         throw UsageError("--telemetry-interval " + (n.interval.empty() ? "1" : n.interval) +
                          " takes more than " + std::to_string(static_cast<long>(kMaxSamples)) +
@@ -176,7 +199,7 @@ Command ParseCommandLine(const std::vector<std::string> &args, const std::string
                 "(vessel, text), created (vessel, class), deleted (vessel), focus (vessel), key\n"
                 "(vessel, key, down), timeaccel (value), engine (vessel, level of the main group),\n"
                 "navmode (vessel, mode number, active), crash (vessel, blast, wrecks), report (vessel,\n"
-                "reportKind, text, lat, lng, alt: what the fleet controller heard).\n"
+                "reportKind, text, lat, lng, alt: what the fleet controller heard), save (file).\n"
                 "Telemetry: a row per vessel and sample: time, vessel, altitude, speed, apogee and\n"
                 "perigee altitude, inclination, mass, main thrust level; written at the end of the run.\n"
                 "Exit codes: 0 done, 1 run error (missing file, unknown class, module failure),\n"

@@ -7,15 +7,24 @@
 
 namespace hullhost::sim {
 
+// A scenario written during the run: at the end of the first frame that
+// reaches `time`.
+struct SaveAt {
+    double time = 0.0;
+    std::string path; // as given
+    bool operator==(const SaveAt &) const = default;
+};
+
 struct RunOptions {
     std::string scenario;
-    std::string root;     // the host's working directory
-    double seconds = 0.0; // simulation time to run; 0: load and post-create only
-    double dt = 0.02;     // frame length [real s]
-    double accel = 1.0;   // time acceleration at the start
-    double warp = 0.0;    // acceleration held as by a user, raised again after each drop; 0: none
+    std::string root;            // the host's working directory
+    double seconds = 0.0;        // simulation time to run; 0: load and post-create only
+    double dt = 0.02;            // frame length [real s]
+    std::optional<double> accel; // time acceleration at the start; none: the scenario's, else 1
+    double warp = 0.0;           // acceleration held as by a user, raised again after each drop; 0: none
     std::optional<unsigned> seed;
     std::string savePath;            // empty: none
+    std::vector<SaveAt> saveAts;     // in order of time
     std::string statePath;           // empty: none
     std::string hudPath;             // SVG of the focus vessel's head-up display; empty: none
     std::string keysPath;            // empty: none

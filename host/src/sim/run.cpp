@@ -61,11 +61,40 @@ class WorkingDirectory {
     fs::path old_;
 };
 
+// The outputs of a run, as absolute paths; empty for none.
+struct Outputs {
+    std::string save, state, hud, log, telemetry, plot, orbitView, events;
+    std::vector<SaveAt> saveAts; // in order of time
+};
+
+// Writes the saves of --save-at that are due at the world's time: each one
+// whole, so that a run that fails later leaves the earlier ones behind.
+class SavesDue {
+  public:
+    SavesDue(const ScenarioFile &scenario, const RunOptions &options, const Outputs &out, EventLog *events)
+        : scenario_(scenario), given_(options.saveAts), saves_(out.saveAts), events_(events) {}
+
+    void Write(World &world) {
+        for (; next_ < saves_.size() && saves_[next_].time <= world.simt; ++next_) {
+            WriteFileAtomically(saves_[next_].path, CaptureScenario(world, scenario_).Text());
+            if (events_)
+                events_->OnSaved(given_[next_].path);
+        }
+    }
+
+  private:
+    const ScenarioFile &scenario_;
+    const std::vector<SaveAt> &given_, &saves_;
+    EventLog *events_;
+    std::size_t next_ = 0;
+};
+
 // Runs the frames of a world for `seconds` of simulation time, sampling the
 // telemetry and checking the engines for the event log (if any) after each.
 void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> keys, RunTelemetry *telemetry,
-               EventLog *events, MissionSummary *summary) {
+               EventLog *events, MissionSummary *summary, SavesDue &saves) {
     KeyPlayer player(std::move(keys));
+    saves.Write(world);
     Progress progress(stderr, options.seconds);
     double frames = 0;
     while (NeedsFrame(world.simt, options.seconds, options.dt * world.accel)) {
@@ -90,13 +119,9 @@ void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> k
             events->CheckEngines();
         if (summary)
             summary->Observe(world);
+        saves.Write(world);
     }
 }
-
-// The outputs of a run, as absolute paths; empty for none.
-struct Outputs {
-    std::string save, state, hud, log, telemetry, plot, orbitView, events;
-};
 
 // Loads the scenario into the world, runs it and writes the outputs.
 void RunWorld(World &world, const ScenarioFile &scenario, const RunOptions &options, const Outputs &out,
@@ -111,8 +136,9 @@ void RunWorld(World &world, const ScenarioFile &scenario, const RunOptions &opti
         summary.emplace(world, options.tracks);
     if (events)
         events->CheckEngines();
+    SavesDue saves(scenario, options, out, events);
     RunFrames(world, options, std::move(keys), telemetry ? &*telemetry : nullptr, events,
-              summary ? &*summary : nullptr);
+              summary ? &*summary : nullptr, saves);
 
     std::optional<std::string> stateText, scenarioText;
     if (!out.state.empty())
@@ -157,14 +183,17 @@ void RunScenario(const RunOptions &options) {
         throw std::runtime_error("root folder '" + options.root + "' does not exist");
     const fs::path root = fs::absolute(options.root);
     const std::string scenarioPath = FindScenario(options.scenario, root.string());
-    const Outputs out{OutputPath(options.savePath, "--save"),
-                      OutputPath(options.statePath, "--state"),
-                      OutputPath(options.hudPath, "--hud"),
-                      OutputPath(options.logPath, "--log"),
-                      OutputPath(options.telemetryPath, "--telemetry"),
-                      OutputPath(options.plotPath, "--plot"),
-                      OutputPath(options.orbitViewPath, "--orbit-view"),
-                      OutputPath(options.eventsPath, "--events")};
+    Outputs out{OutputPath(options.savePath, "--save"),
+                OutputPath(options.statePath, "--state"),
+                OutputPath(options.hudPath, "--hud"),
+                OutputPath(options.logPath, "--log"),
+                OutputPath(options.telemetryPath, "--telemetry"),
+                OutputPath(options.plotPath, "--plot"),
+                OutputPath(options.orbitViewPath, "--orbit-view"),
+                OutputPath(options.eventsPath, "--events"),
+                {}};
+    for (const SaveAt &s : options.saveAts)
+        out.saveAts.push_back({s.time, OutputPath(s.path, "--save-at")});
     const std::string soundtrack = OutputPath(options.soundtrackPath, "--soundtrack");
     std::vector<KeyAction> keys;
     if (!options.keysPath.empty())
@@ -177,7 +206,8 @@ void RunScenario(const RunOptions &options) {
         sound.emplace(root.string());
     World world(root.string());
     world.seed = options.seed;
-    world.accel = options.accel;
+    // A saved run goes on at the pace it was saved at.
+    world.accel = options.accel.value_or(scenario.timeAccel.value_or(1.0));
     world.warp = options.warp;
     if (!out.log.empty()) {
         // One run, one log: the file starts empty.
