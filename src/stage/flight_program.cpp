@@ -1,6 +1,7 @@
 // The flight program at run time: one step after the other, each started,
 // ticked by the updater K_PGM_STEP and stopped.
 #include <cstdio>
+#include <utility>
 
 #include "stage/korvan.h"
 
@@ -42,12 +43,14 @@ void FlightProgram::StartNextStep() {
         current->duration = current->metTime - vessel->MissionTime;
     else
         current->metTime = current->duration + vessel->MissionTime;
-    // A positive countdown is one restored from the scenario.
+    // A positive countdown is one restored from the scenario, and so is a
+    // lunar preparation: the step that was running goes on with them.
     if (apTimer <= 0.0)
         apTimer = current->duration;
+    const bool restored = std::exchange(preparationRestored, false);
     switch (current->type) {
     case ProgramStep::kIdle:
-        if (current->target == ProgramStep::kMoon)
+        if (current->target == ProgramStep::kMoon && !restored)
             PrepareLunarTransfer();
         stepFn = &FlightProgram::StepIdle;
         break;
@@ -89,8 +92,15 @@ void FlightProgram::Tick() {
     k.GetPeDist(k.PeDist);
     apTimer -= k.SimStep;
     if (!stepFn || !current) {
-        AdvanceStep();
-        return;
+        // The updater came back from a scenario with no step started: the
+        // program picks up its first undone step where it stood, with the
+        // countdown of AP_TIMER and the engine and vent as they run, and
+        // ticks it at once, as the saved run would have.
+        StartNextStep();
+        if (!stepFn || !current) {
+            StopStep();
+            return;
+        }
     }
     (this->*stepFn)();
     if (k.HasFocus)

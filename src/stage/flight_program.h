@@ -92,4 +92,5 @@ class FlightProgram {
     void (FlightProgram::*stepFn)() = nullptr; // the running step's operation; null before the first
     double moonApogee = 0.0;                   // [m] apogee radius that ends a BURN MOON
     double moonThrottleApogee = 0.0;           // [m] 0.95 of it: from there the engine runs at a tenth
+    bool preparationRestored = false;          // AP_PARAMS was read; the next step to start uses it
 };

@@ -107,6 +107,7 @@ bool FlightProgram::ReadScenarioLine(const char *line) {
     } else if (BeginsWithKey(line, "AP_PARAMS")) {
         std::sscanf(line + 9, "%lf %lf %lf %lf", &vessel->MoonNodeTime, &vessel->MoonNodeRadius, &moonApogee,
                     &moonThrottleApogee);
+        preparationRestored = true;
     } else {
         return false;
     }
