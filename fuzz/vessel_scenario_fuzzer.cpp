@@ -14,15 +14,15 @@
 namespace {
 
 // Loads a scenario with the stage's module, flies two frames and returns the
-// saved scenario's text. The frames are as long as hullsim's by default.
-std::string Fly(const hullhost::ScenarioFile &scenario) {
+// saved scenario. The frames are as long as hullsim's by default.
+hullhost::ScenarioFile Fly(const hullhost::ScenarioFile &scenario) {
     hullhost::World world(fuzzing::Root());
     world.seed = 1;
     fuzzing::UseModule(world, fuzzing::FleetModule::Korvan);
     hullhost::LoadScenario(world, scenario);
     world.Frame(0.02);
     world.Frame(0.02);
-    return hullhost::CaptureScenario(world, scenario).Text();
+    return hullhost::CaptureScenario(world, scenario);
 }
 
 } // namespace
@@ -42,7 +42,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     for (const hullhost::VesselBlock &block : scenario.vessels)
         if (block.className != fuzzing::kHostClass)
             return 0;
-    // What the vessel writes the host must be able to read back.
-    hullhost::ScenarioFile::Parse(Fly(scenario), "saved");
+    // What the vessel writes the host must be able to read back. A stage that
+    // crashed without a wreck class to leave leaves no vessel to write.
+    const hullhost::ScenarioFile saved = Fly(scenario);
+    if (!saved.vessels.empty())
+        hullhost::ScenarioFile::Parse(saved.Text(), "saved");
     return 0;
 }
