@@ -10,13 +10,15 @@ cd "$(dirname "$0")/.."
 scripts/build.sh
 out="$PWD/demo-out"
 mkdir -p "$out"
-# Frames of 0.02 s, as a simulator shows them, held at 500x: 10 s of flight
-# per frame while the stage coasts (a coast's end, tested once a frame, is at
-# most 10 s late: the transfer burn starts within 0.6 degrees of its place),
-# 0.2 s under the stage's cap of 10x while it turns and burns (the gimbal
-# loop needs frames that short). Four days: past the Moon.
+# Frames of 4.9 ms held at 2000x: 9.8 s of flight per frame while the stage
+# coasts (a coast's end, tested once a frame, is at most 9.8 s late), 0.049 s
+# under the stage's cap of 10x while it turns and burns, short enough for the
+# gimbal loop to settle rather than hunt. A frame that long divides none of
+# the stage's round timer durations, so a save taken at any moment of the run
+# (--save-at) and flown on with these options ends as this run does. Four
+# days: past the Moon.
 /usr/bin/time -v -o "$out/time.txt" \
-    build/bin/hullsim run LunarTransfer --for 345600 --dt 0.02 --warp 500 --seed 1 \
+    build/bin/hullsim run LunarTransfer --for 345600 --dt 0.0049 --warp 2000 --seed 1 \
     --summary --track Korvan-1 --track Sat-2 --track Sat-1 \
     --events "$out/events.jsonl" --save "$out/LunarTransfer-end.scn" --state "$out/state.json" \
     --telemetry "$out/telemetry.csv" --telemetry-interval 600 \

@@ -18,6 +18,16 @@ std::string LevelText(double value) {
     return buffer;
 }
 
+// The text of a value that differs from its unchanged one; empty when it
+// doesn't, or when its text reads back as the unchanged value: such a change
+// doesn't survive a reload, and the next save mustn't differ from this one.
+std::string ChangeText(double value, double unchanged) {
+    if (value == unchanged)
+        return std::string();
+    std::string text = LevelText(value);
+    return std::atof(text.c_str()) == unchanged ? std::string() : text;
+}
+
 } // namespace
 
 std::string HULLKIT::ModificationText(const std::string &name, TANK_REC *record) {
@@ -27,7 +37,7 @@ std::string HULLKIT::ModificationText(const std::string &name, TANK_REC *record)
     // A tank without capacity gives 0/0, which counts as empty.
     if (std::isnan(fill))
         fill = 0.0;
-    return fill == 1.0 ? std::string() : LevelText(fill);
+    return ChangeText(fill, 1.0);
 }
 
 void HULLKIT::ApplyRecordMods(const std::string &, const std::string &value, TANK_REC *record) {
@@ -41,7 +51,7 @@ std::string HULLKIT::ModificationText(const std::string &name, THRUSTERGROUP_REC
         !record->handle)
         return std::string();
     const double level = GetThrusterGroupLevel(record->handle);
-    return level == 0.0 ? std::string() : LevelText(level);
+    return ChangeText(level, 0.0);
 }
 
 void HULLKIT::ApplyRecordMods(const std::string &, const std::string &value, THRUSTERGROUP_REC *record) {
@@ -53,7 +63,7 @@ void HULLKIT::ApplyRecordMods(const std::string &, const std::string &value, THR
 std::string HULLKIT::ModificationText(const std::string &, ANIM_CTRL_REC *record) {
     const ANIM_REC *anim = AnimTable.At(record->animIndex);
     const double start = anim ? anim->start : 0.0;
-    return record->state == start ? std::string() : LevelText(record->state);
+    return ChangeText(record->state, start);
 }
 
 void HULLKIT::ApplyRecordMods(const std::string &, const std::string &value, ANIM_CTRL_REC *record) {

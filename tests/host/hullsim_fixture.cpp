@@ -43,16 +43,18 @@ HullsimFixture::HullsimFixture() {
                                                 "BEGIN_SHIPS\nP:Test\\Probe\n  PROBE_X 1\nEND\nEND_SHIPS\n");
 }
 
-Result HullsimFixture::Run(const std::vector<std::string> &args) const {
+Result HullsimFixture::Run(const std::vector<std::string> &args, const std::string &tag) const {
     std::string cmd = Quote(HULLSIM_EXE);
     for (const auto &a : args)
         cmd += " " + Quote(a);
-    cmd += " >" + Quote(dir / "out.txt") + " 2>" + Quote(dir / "err.txt") + " </dev/null";
+    const std::string suffix = tag.empty() ? ".txt" : "-" + tag + ".txt";
+    const std::string out = dir / ("out" + suffix), err = dir / ("err" + suffix);
+    cmd += " >" + Quote(out) + " 2>" + Quote(err) + " </dev/null";
     Result r;
     int status = std::system(cmd.c_str());
     r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    r.out = ReadText(dir / "out.txt");
-    r.err = ReadText(dir / "err.txt");
+    r.out = ReadText(out);
+    r.err = ReadText(err);
     return r;
 }
 

@@ -28,8 +28,9 @@ class HullsimFixture : public ::testing::Test {
     HullsimFixture();
 
     // Runs hullsim with `args`, its standard output and error caught in
-    // out.txt and err.txt of the folder.
-    Result Run(const std::vector<std::string> &args) const;
+    // out.txt and err.txt of the folder; with a `tag`, in out-TAG.txt and
+    // err-TAG.txt, so that runs with different tags may go at once.
+    Result Run(const std::vector<std::string> &args, const std::string &tag = "") const;
 
     // Runs and expects a failure with `code` and one error line holding `text`.
     void ExpectError(const std::vector<std::string> &args, int code, const std::string &text) const;

@@ -105,8 +105,9 @@ TEST_F(HullsimKeysEventsTest, HostActsOnlyOnKeysTheVesselLeaves) {
 }
 
 TEST_F(HullsimKeysEventsTest, EventLogTellsWhatHappenedInOrder) {
-    // B has the focus, makes B-child and deletes itself in its second frame;
-    // A talks and sets the time acceleration to 2 twice.
+    // B has the focus, makes B-child in the run's frame of no length and
+    // deletes itself in its second frame; A talks and sets the time
+    // acceleration to 2 twice. The key's release goes to the new focus.
     WriteScenario("events", {{"B", "PROBE_SPAWN"}, {"A", "PROBE_SAY", "PROBE_WARP 2", "PROBE_MAIN 0.5"}});
     WriteText(dir / "keys.txt", "0 Ctrl+M\n");
     const std::string events = dir / "events.jsonl";
@@ -118,16 +119,16 @@ TEST_F(HullsimKeysEventsTest, EventLogTellsWhatHappenedInOrder) {
         {{"t", 0}, {"kind", "message"}, {"vessel", "A"}, {"text", "probe A ready"}},
         {{"t", 0}, {"kind", "focus"}, {"vessel", "B"}},
         {{"t", 0}, {"kind", "engine"}, {"vessel", "A"}, {"level", 0.5}},
-        {{"t", 0.02}, {"kind", "key"}, {"vessel", "B"}, {"key", "Ctrl+M"}, {"down", true}},
-        {{"t", 0.02}, {"kind", "created"}, {"vessel", "B-child"}, {"class", "Test\\Probe"}},
-        {{"t", 0.02}, {"kind", "message"}, {"vessel", "B-child"}, {"text", "probe B-child ready"}},
-        {{"t", 0.02}, {"kind", "message"}, {"vessel", "A"}, {"text", "hello"}},
-        {{"t", 0.02}, {"kind", "timeaccel"}, {"value", 2}},
-        {{"t", 0.06}, {"kind", "key"}, {"vessel", "B"}, {"key", "Ctrl+M"}, {"down", false}},
-        {{"t", 0.06}, {"kind", "deleted"}, {"vessel", "B"}},
-        {{"t", 0.06}, {"kind", "focus"}, {"vessel", "A"}},
-        {{"t", 0.10}, {"kind", "message"}, {"vessel", "A"}, {"text", ""}},
-        {{"t", 0.18}, {"kind", "message"}, {"vessel", "A"}, {"text", "bye"}},
+        {{"t", 0}, {"kind", "created"}, {"vessel", "B-child"}, {"class", "Test\\Probe"}},
+        {{"t", 0}, {"kind", "message"}, {"vessel", "B-child"}, {"text", "probe B-child ready"}},
+        {{"t", 0}, {"kind", "message"}, {"vessel", "A"}, {"text", "hello"}},
+        {{"t", 0}, {"kind", "timeaccel"}, {"value", 2}},
+        {{"t", 0.04}, {"kind", "key"}, {"vessel", "B"}, {"key", "Ctrl+M"}, {"down", true}},
+        {{"t", 0.04}, {"kind", "deleted"}, {"vessel", "B"}},
+        {{"t", 0.04}, {"kind", "focus"}, {"vessel", "A"}},
+        {{"t", 0.08}, {"kind", "key"}, {"vessel", "A"}, {"key", "Ctrl+M"}, {"down", false}},
+        {{"t", 0.08}, {"kind", "message"}, {"vessel", "A"}, {"text", ""}},
+        {{"t", 0.16}, {"kind", "message"}, {"vessel", "A"}, {"text", "bye"}},
     };
     std::vector<json> got = Events(events);
     ASSERT_EQ(got.size(), expected.size()) << ReadText(events);
@@ -152,7 +153,7 @@ TEST_F(HullsimKeysEventsTest, EventsAreWrittenWhenTheRunFails) {
     ASSERT_EQ(got.size(), 4u) << ReadText(events);
     EXPECT_EQ(got[2]["text"], "hello");
     EXPECT_EQ(got[3]["text"], "");
-    EXPECT_NEAR(got[3]["t"].get<double>(), 0.06, 1e-9);
+    EXPECT_NEAR(got[3]["t"].get<double>(), 0.04, 1e-9);
 }
 
 } // namespace

@@ -80,7 +80,8 @@ TEST_F(HullsimProgramTest, RunLoadsTheModulePlaysKeysAndWritesResults) {
     auto has = [&lines](const std::string &line) {
         return std::find(lines.begin(), lines.end(), line) != lines.end();
     };
-    EXPECT_TRUE(has("PROBE_FRAMES 10")) << saved.Text();
+    // A frame of no length, in which a vessel takes its first step, then ten.
+    EXPECT_TRUE(has("PROBE_FRAMES 11")) << saved.Text();
     // M (50) down and up; J (36) down and up, with Ctrl held at its down event.
     EXPECT_TRUE(has("PROBE_KEYS +50 -50 +36^ -36")) << saved.Text();
     EXPECT_TRUE(has("PROBE_HELD M=1 J=3 CTRL=3")) << saved.Text();
@@ -103,14 +104,15 @@ TEST_F(HullsimProgramTest, SavedScenarioRunsAgainAndRunsEndAtTheirTime) {
     ASSERT_EQ(Run({"run", Root() + "/Scenarios/probe.scn", "--root", Root(), "--save", first}).code, 0);
     auto lines = hullhost::ScenarioFile::Read(first).vessels.at(0).lines;
     EXPECT_NE(std::find(lines.begin(), lines.end(), "PROBE_FRAMES 0"), lines.end());
-    // 0.13 s is six frames of 0.02 s and a last one cut to 0.01 s.
+    // 0.13 s is a frame of no length, six frames of 0.02 s and a last one cut
+    // to 0.01 s.
     Result r = Run({"run", first, "--root", Root(), "--for", "0.13", "--dt", "0.02", "--save", second});
     ASSERT_EQ(r.code, 0) << r.err;
     auto saved = hullhost::ScenarioFile::Read(second);
     ASSERT_TRUE(saved.mjd.has_value());
     EXPECT_NEAR((*saved.mjd - 60000.0) * 86400.0, 0.13, 1e-6);
     lines = saved.vessels.at(0).lines;
-    EXPECT_NE(std::find(lines.begin(), lines.end(), "PROBE_FRAMES 7"), lines.end()) << saved.Text();
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "PROBE_FRAMES 8"), lines.end()) << saved.Text();
 }
 
 // Outputs named by a pipe, a device or a link are written through them; only

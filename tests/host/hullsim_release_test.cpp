@@ -122,7 +122,7 @@ TEST_F(HullsimReleaseTest, ConditionalReleaseWaitsForTheCarrierToBeStill) {
             {"--for", "5", "--save", dir / "after.scn", "--state", dir / "state.json"});
         ASSERT_EQ(Of("detached").size(), released ? 1u : 0u) << vrot;
         if (released) {
-            EXPECT_NEAR(Of("detached")[0]["t"].get<double>(), 0.2, 1e-9);
+            EXPECT_NEAR(Of("detached")[0]["t"].get<double>(), 0.1, 1e-9); // in the first frame
         }
         const std::string saved = ReadText(dir / "after.scn");
         const std::string carrier = saved.substr(saved.find("Carrier-1:"));
@@ -147,7 +147,7 @@ TEST_F(HullsimReleaseTest, ConditionalReleaseWaitsForTheCarrierToBeStill) {
 // loads and saves again to the same text.
 TEST_F(HullsimReleaseTest, SaveInTheMiddleOfADropFinishesItAfterReload) {
     WriteText(dir / "j.keys", "19 M\n20 J\n");
-    for (auto [seconds, element] : {std::pair{"15.4", "Korvan-1-Fairing"}, {"20.15", "Korvan-1-SOZR"}}) {
+    for (auto [seconds, element] : {std::pair{"15.3", "Korvan-1-Fairing"}, {"20.15", "Korvan-1-SOZR"}}) {
         Fly("KorvanRelease", {"--for", seconds, "--keys", dir / "j.keys", "--save", dir / "mid.scn"});
         Fly(dir / "mid.scn", {"--save", dir / "again.scn"});
         EXPECT_EQ(ReadText(dir / "again.scn"), ReadText(dir / "mid.scn")) << seconds;

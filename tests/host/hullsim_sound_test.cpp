@@ -204,7 +204,7 @@ TEST_F(HullsimSoundTest, PyroOfAReleaseFollowsTheDistanceRuleThroughTheCommonTab
 }
 
 // The soundtrack of a release: silence until the pyro plays at the stage's
-// release, 10.3 s in, then its 0.3 s clip.
+// release, 10.2 s in, then its 0.3 s clip.
 TEST_F(HullsimSoundTest, SoundtrackMixesWhatWasPlayedAtItsTime) {
     MakeRoot(SOUND_LIBRARY);
     const hosttest::Result r = Run({"run", "KorvanRelease", "--root", root.string(), "--for", "12", "--dt",
@@ -222,9 +222,9 @@ TEST_F(HullsimSoundTest, SoundtrackMixesWhatWasPlayedAtItsTime) {
         }
         return most;
     };
-    EXPECT_EQ(loudest(0.0, 10.2), 0);
-    EXPECT_GT(loudest(10.3, 10.6), 10000);
-    EXPECT_EQ(loudest(10.7, 12.0), 0);
+    EXPECT_EQ(loudest(0.0, 10.1), 0);
+    EXPECT_GT(loudest(10.2, 10.5), 10000);
+    EXPECT_EQ(loudest(10.6, 12.0), 0);
 }
 
 } // namespace

@@ -95,6 +95,11 @@ void RunFrames(World &world, const RunOptions &options, std::vector<KeyAction> k
                EventLog *events, MissionSummary *summary, SavesDue &saves) {
     KeyPlayer player(std::move(keys));
     saves.Write(world);
+    // A vessel spends its first step on nothing: the run begins with a frame
+    // of no length, so that a run resumed from a save loses no time of its
+    // countdowns.
+    if (NeedsFrame(world.simt, options.seconds, options.dt * world.accel))
+        world.Frame(0.0);
     Progress progress(stderr, options.seconds);
     double frames = 0;
     while (NeedsFrame(world.simt, options.seconds, options.dt * world.accel)) {
