@@ -101,7 +101,7 @@ void HULLKIT::PlayVesselSound(int wave, int mode, int volume) {
     VECTOR3 offset;
     GetRelativePos(focus, offset);
     const double d = length(offset);
-    if (d > kHearingLimit)
+    if (!(d <= kHearingLimit)) // also a distance that isn't a number
         return;
     volume = static_cast<int>(std::trunc(volume * (1.0 - d / kSilentDistance)));
     const int id = static_cast<HULLKIT *>(listener)->SoundId;
