@@ -5,6 +5,7 @@ set -euo pipefail
 # clang and its runtimes (libFuzzer, the sanitizers) build the fuzz targets.
 packages=(build-essential cmake googletest libgtest-dev libgmock-dev libbenchmark-dev
           libtsl-ordered-map-dev libcli11-dev nlohmann-json3-dev clang libclang-rt-dev
+          libxml2-dev  # the tests read the SVG the host writes
           time)  # /usr/bin/time measures the demo mission
 
 missing=()

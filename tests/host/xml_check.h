@@ -1,5 +1,5 @@
-// A strict reader of small XML documents for tests of what the host writes:
-// elements, attributes, text, comments and the XML declaration.
+// The elements of an XML document that the host writes, read by libxml2,
+// which holds a document to every rule of well-formedness.
 #pragma once
 
 #include <map>
@@ -15,9 +15,9 @@ struct XmlElement {
 };
 
 // The elements of a document in the order they start. Throws
-// std::runtime_error saying where the document is not well-formed: a tag
-// left open or closed out of turn, an unquoted or repeated attribute, a bare
-// '<' or '&', an unknown entity, or anything but one root element.
+// std::runtime_error saying where the document is not well-formed, such as
+// a tag left open, a repeated attribute, a bare '<' or '&' or an unknown
+// entity.
 std::vector<XmlElement> ParseXml(const std::string &document);
 
 } // namespace hosttest
