@@ -62,9 +62,9 @@ struct ScenarioFile {
 
     // Reads a scenario's text. `source` names it in error messages. Throws
     // ScenarioError for a malformed scenario: no vessels, a ship line without
-    // ':', a vessel block without END, an unclosed section, a bad date or time
-    // acceleration, a
-    // vessel name given twice, a focus that names no vessel.
+    // ':', a vessel block without END, an unclosed section, a bad date or
+    // time acceleration, a vessel name given twice, a focus that names no
+    // vessel.
     static ScenarioFile Parse(std::string_view text, const std::string &source = "scenario");
     // Reads a scenario file. Throws ScenarioError when it can't be read.
     static ScenarioFile Read(const std::string &path);
