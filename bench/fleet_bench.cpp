@@ -3,6 +3,8 @@
 // - FleetLoad: loading a scenario of N vessels (Korvan stages and Generic
 //   pieces in orbit), per scenario and per vessel;
 // - FleetFrame: one frame of that world, per frame and per vessel;
+// - FleetSave: that world, after a frame, written as a scenario's text, as
+//   --save and each --save-at do;
 // - GenericFrame: one frame of a single Generic piece standing on the
 //   ground against the same piece in orbit, at time accelerations 1 and 10.
 #include <benchmark/benchmark.h>
@@ -47,6 +49,21 @@ void FleetFrame(benchmark::State &state) {
     state.counters["per_vessel"] = PerVessel(state, count);
 }
 
+void FleetSave(benchmark::State &state) {
+    const int count = static_cast<int>(state.range(0));
+    const hullhost::ScenarioFile scenario = bench::OrbitingFleet(count);
+    bench::RootWorld world(scenario);
+    world->Frame(bench::kFrame);
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        const std::string text = hullhost::CaptureScenario(*world, scenario).Text();
+        bytes = text.size();
+        benchmark::DoNotOptimize(text.data());
+    }
+    state.counters["per_vessel"] = PerVessel(state, count);
+    state.counters["bytes"] = static_cast<double>(bytes);
+}
+
 void GenericFrame(benchmark::State &state) {
     const bool landed = state.range(0) != 0;
     bench::RootWorld world(bench::Scenario(
@@ -63,6 +80,7 @@ void GenericFrame(benchmark::State &state) {
 
 BENCHMARK(FleetLoad)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(FleetFrame)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FleetSave)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK(GenericFrame)
     ->ArgNames({"landed", "accel"})
     ->ArgsProduct({{0, 1}, {1, 10}})
