@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -66,15 +68,26 @@ class EnvironmentTest : public ::testing::Test {
         k.UpdateAwareness();
     }
 
+    // A stage `x` m from the Earth's centre on its x axis, moving at `vz` m/s
+    // along z.
+    Korvan &Orbiting(const std::string &name, double x, double vz = 7788.48,
+                     const std::vector<std::string> &extra = {}) {
+        char rpos[64], rvel[64];
+        std::snprintf(rpos, sizeof rpos, "RPOS %.2f 0.00 0.00", x);
+        std::snprintf(rvel, sizeof rvel, "RVEL 0.00 0.00 %.2f", vz);
+        std::vector<std::string> lines = {rvel, "AROT 0.00 0.00 0.00"};
+        lines.insert(lines.end(), extra.begin(), extra.end());
+        return static_cast<Korvan &>(Load(name.c_str(), "Fleet\\Korvan",
+                                          std::vector<const char *>{"STATUS Orbiting Earth", rpos}, lines));
+    }
+
     // Frames of `dt` seconds until `seconds` have passed, or `until` holds.
-    template <class Stop = bool (*)()> void Run(double seconds, double dt = 0.02, Stop until = nullptr) {
+    void Run(double seconds, double dt = 0.02, const std::function<bool()> &until = {}) {
         const double end = world->simt + seconds - 1e-9;
         while (world->simt < end) {
             world->Frame(dt);
-            if constexpr (!std::is_same_v<Stop, bool (*)()>) {
-                if (until())
-                    return;
-            }
+            if (until && until())
+                return;
         }
     }
 

@@ -63,8 +63,6 @@ TEST(Airfoils, DefaultsFollowTheSmallestCrossSection) {
         EXPECT_DOUBLE_EQ(p.WingChord, r.chord);
         EXPECT_DOUBLE_EQ(p.WingS, r.area);
         EXPECT_DOUBLE_EQ(p.WingAspect, r.chord / r.area);
-        EXPECT_DOUBLE_EQ(p.DCmomentMax, 1.0 / 3.0);
-        EXPECT_DOUBLE_EQ(p.momentSign, -1.0);
         double cl, cm, cd;
         AirfoilCoefficients(p, PI / 2, 1.0, &cl, &cm, &cd);
         EXPECT_EQ(cl, 0.0);

@@ -69,29 +69,10 @@ TEST_F(TouchdownTest, EachTouchdownEndsParkedWreckedOrBlown) {
     }
 }
 
-// Parked, the vessel stays put for a day at any acceleration; its saved
-// form is the landed one.
-TEST_F(TouchdownTest, ParkedVesselStaysPutForADay) {
-    HULLKIT &k = Load("K", "Fleet\\Korvan", kGround);
-    Run(0.1);
-    Drop(k, 0.01, 1.0, 0.0);
-    Run(1.5);
-    ASSERT_TRUE(k.Landed);
-    const VECTOR3 start = Place(k);
-    // Ten minutes at 1x, six hours at 100x, the rest of the day at 1000x.
-    for (auto [accel, seconds] : {std::pair{1.0, 600.0}, {100.0, 21600.0}, {1000.0, 64200.0}}) {
-        world->accel = accel;
-        Run(seconds, 0.1);
-    }
-    const VECTOR3 end = Place(k);
-    EXPECT_LT(std::hypot(end.x - start.x, end.y - start.y) * start.z, 1.0);
-    const std::vector<std::string> saved = Save(k);
-    EXPECT_NE(std::find(saved.begin(), saved.end(), "STATUS Landed Earth"), saved.end());
-}
-
 // A vessel off the ground again within 0.2 s of touching isn't parked, and
-// its next contact is a touchdown of its own.
-TEST_F(TouchdownTest, BounceWithinTheDustTimeIsNoParking) {
+// its next contact is a touchdown of its own. Parked, the vessel stays put
+// for a day at any acceleration; its saved form is the landed one.
+TEST_F(TouchdownTest, BounceWithinTheDustTimeIsNoParkingAndParkedVesselStaysPutForADay) {
     HULLKIT &k = Load("K", "Fleet\\Korvan", kGround);
     k.Destructible = false; // the bounce is what counts here, not a hard landing
     Run(0.1);
@@ -104,6 +85,19 @@ TEST_F(TouchdownTest, BounceWithinTheDustTimeIsNoParking) {
     EXPECT_FALSE(k.Landed);
     Run(3.0, 0.02, [&] { return k.DustLevel > 0.0; });
     EXPECT_EQ(k.DustLevel, 1.0);
+
+    Run(1.5);
+    ASSERT_TRUE(k.Landed);
+    const VECTOR3 start = Place(k);
+    // Ten minutes at 1x, six hours at 100x, the rest of the day at 1000x.
+    for (auto [accel, seconds] : {std::pair{1.0, 600.0}, {100.0, 21600.0}, {1000.0, 64200.0}}) {
+        world->accel = accel;
+        Run(seconds, 0.1);
+    }
+    const VECTOR3 end = Place(k);
+    EXPECT_LT(std::hypot(end.x - start.x, end.y - start.y) * start.z, 1.0);
+    const std::vector<std::string> saved = Save(k);
+    EXPECT_NE(std::find(saved.begin(), saved.end(), "STATUS Landed Earth"), saved.end());
 }
 
 // In flight the stage breaks into its three pieces, each with a third of
@@ -143,12 +137,8 @@ TEST_F(TouchdownTest, CrashInFlightLeavesOneWreckPerRecord) {
 // and takes the one 0.1 m beyond it along.
 TEST_F(TouchdownTest, BlastReachesNeighboursWithin200Metres) {
     HULLKIT &a = Load("A", "Fleet\\Korvan", kOrbit);
-    HULLKIT &b = Load("B", "Fleet\\Korvan",
-                      std::vector<const char *>{"STATUS Orbiting Earth", "RPOS 6571210.00 0.00 0.00",
-                                                "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00"});
-    HULLKIT &c = Load("C", "Fleet\\Korvan",
-                      std::vector<const char *>{"STATUS Orbiting Earth", "RPOS 6571210.10 0.00 0.00",
-                                                "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00"});
+    HULLKIT &b = Orbiting("B", 6571210.00);
+    HULLKIT &c = Orbiting("C", 6571210.10);
     {
         hullhost::CallbackScope scope(*world, &Host(a));
         a.OnCrash(false);

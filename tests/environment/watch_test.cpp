@@ -1,7 +1,5 @@
 // The layers of watching: the planet watch within 20000 km of the ground,
 // the atmosphere watch above 0.000325 Pa, and the way out of the air.
-#include <cstdio>
-
 #include "environment_fixture.h"
 #include "physics/atmosphere.h"
 
@@ -9,14 +7,9 @@ namespace {
 
 class WatchTest : public EnvironmentTest {
   protected:
-    // A stage at `altitude` m over the equator's x axis, with `extra` lines.
-    Korvan &At(const char *name, double altitude, const std::vector<std::string> &extra = {}) {
-        char rpos[64];
-        std::snprintf(rpos, sizeof rpos, "RPOS %.2f 0.00 0.00", world->Earth()->radius + altitude);
-        std::vector<std::string> lines = {"RVEL 0.00 0.00 1000.00", "AROT 0.00 0.00 0.00"};
-        lines.insert(lines.end(), extra.begin(), extra.end());
-        return static_cast<Korvan &>(
-            Load(name, "Fleet\\Korvan", std::vector<const char *>{"STATUS Orbiting Earth", rpos}, lines));
+    // A stage at `altitude` m over the equator.
+    Korvan &At(const std::string &name, double altitude) {
+        return Orbiting(name, world->Earth()->radius + altitude, 1000.0);
     }
     // The altitude at which the air's pressure falls to 0.000325 Pa.
     static double AirTop() {
@@ -39,7 +32,7 @@ TEST_F(WatchTest, LayersSwitchAtTheirThresholds) {
     int n = 0;
     for (const Row &r : rows) {
         const std::string name = "K" + std::to_string(n++);
-        Korvan &k = At(name.c_str(), r.altitude);
+        Korvan &k = At(name, r.altitude);
         EXPECT_EQ(k.InPlanetRange, r.planet) << r.altitude;
         EXPECT_EQ(k.HasUpdater(&HULLKIT::H_GROUND_WATCH), r.planet) << r.altitude;
         EXPECT_EQ(k.InAtmosphere, r.air) << r.altitude;
@@ -53,7 +46,7 @@ TEST_F(WatchTest, OnlyAHotVesselLeavesTheAir) {
     const double top = AirTop();
     for (double temperature : {20.0, 800.0}) {
         const std::string name = "T" + std::to_string(static_cast<int>(temperature));
-        Korvan &k = At(name.c_str(), top - 500);
+        Korvan &k = At(name, top - 500);
         ASSERT_TRUE(k.InAtmosphere);
         k.Temperature = temperature;
         hullhost::Vessel &v = Host(k);

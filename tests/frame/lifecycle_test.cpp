@@ -3,11 +3,14 @@
 
 using ::testing::ElementsAre;
 
-TEST_F(ProbeTest, ScenarioBlockGoesThroughBothPassesAroundTheConfiguration) {
+// The class file beats the common one and a subtype's variant file beats the
+// class file. A block without a status lands on the Earth, but only a status
+// line sets the flag.
+TEST_F(ProbeTest, ScenarioBlockGoesThroughBothPassesAroundTheLayeredConfiguration) {
     env.Write("Config/Vessels/Test/HullKit.cfg", "Shared = common\nLevel = common\n");
-    env.Write("Config/Vessels/Test/Probe.cfg", "Module = Test\\Probe\nLevel = class\n");
+    env.Write("Config/Vessels/Test/Probe.cfg", "Module = Test\\Probe\nLevel = class\nOnlyClass = yes\n");
+    env.Write("Config/Vessels/Test/Probe/Heavy.cfg", "Level = variant\n");
     ProbeVessel &p = LoadProbe("P1", {"STATUS Orbiting Earth", "FOO 1"});
-
     EXPECT_THAT(p.firstPass, ElementsAre("STATUS Orbiting Earth", "FOO 1"));
     EXPECT_THAT(p.secondPass, ElementsAre("STATUS Orbiting Earth", "FOO 1"));
     EXPECT_EQ(p.applyCount, 1);
@@ -16,30 +19,26 @@ TEST_F(ProbeTest, ScenarioBlockGoesThroughBothPassesAroundTheConfiguration) {
     EXPECT_EQ(p.Cfg("Shared"), "common");
     EXPECT_EQ(p.ClassFolder, "Test");
     EXPECT_EQ(p.moduleName, "Probe");
+
+    ProbeVessel &heavy = LoadProbe("P2", {"STATUS Landed Earth", "SUBTYPE Heavy"});
+    EXPECT_TRUE(heavy.Landed);
+    EXPECT_EQ(heavy.subtype, "Heavy");
+    EXPECT_EQ(heavy.variantFile, "Config\\Vessels\\Test\\Probe\\Heavy.cfg");
+    EXPECT_EQ(heavy.Cfg("Level"), "variant");
+    EXPECT_EQ(heavy.Cfg("OnlyClass"), "yes");
+    EXPECT_EQ(heavy.Cfg("Shared"), "common");
+
+    ProbeVessel &bare = LoadProbe("P3", {"FOO 1"});
+    EXPECT_THAT(bare.firstPass, ElementsAre("FOO 1", "STATUS Landed Earth"));
+    EXPECT_FALSE(bare.Landed);
 }
 
-TEST_F(ProbeTest, BlockWithoutStatusLandsOnEarthWithoutSettingTheFlag) {
-    ProbeVessel &p = LoadProbe("P1", {"FOO 1"});
-    EXPECT_THAT(p.firstPass, ElementsAre("FOO 1", "STATUS Landed Earth"));
-    EXPECT_FALSE(p.Landed);
-
-    ProbeVessel &q = LoadProbe("P2", {"STATUS Landed Earth"});
-    EXPECT_TRUE(q.Landed);
-}
-
-TEST_F(ProbeTest, SubtypeSelectsTheVariantFileWhichBeatsTheClassFile) {
-    env.Write("Config/Vessels/Test/Probe.cfg", "Module = Test\\Probe\nLevel = class\nOnlyClass = yes\n");
-    env.Write("Config/Vessels/Test/Probe/Heavy.cfg", "Level = variant\n");
-    ProbeVessel &p = LoadProbe("P1", {"STATUS Orbiting Earth", "SUBTYPE Heavy"});
-    EXPECT_EQ(p.subtype, "Heavy");
-    EXPECT_EQ(p.variantFile, "Config\\Vessels\\Test\\Probe\\Heavy.cfg");
-    EXPECT_EQ(p.Cfg("Level"), "variant");
-    EXPECT_EQ(p.Cfg("OnlyClass"), "yes");
-}
-
-TEST_F(ProbeTest, FirstStepAfterCreationDoesNothing) {
+TEST_F(ProbeTest, FirstStepAfterCreationDoesNothingAndACrashedVesselNoLongerSteps) {
     ProbeVessel &p = LoadProbe("P1");
+    ProbeVessel &crashed = LoadProbe("P2");
     p.AddUpdater(Call(&ProbeVessel::U_A));
+    crashed.AddUpdater(Call(&ProbeVessel::U_A));
+    crashed.Crashed = true;
     env.world->Frame(0.1);
     EXPECT_TRUE(p.runs.empty());
     EXPECT_EQ(p.SimTime, 0.0);
@@ -47,14 +46,8 @@ TEST_F(ProbeTest, FirstStepAfterCreationDoesNothing) {
     EXPECT_THAT(p.runs, ElementsAre("A"));
     EXPECT_NEAR(p.SimTime, 0.2, 1e-12);
     EXPECT_NEAR(p.SimStep, 0.1, 1e-12);
-}
-
-TEST_F(ProbeTest, CrashedVesselNoLongerSteps) {
-    ProbeVessel &p = LoadProbe("P1");
-    p.AddUpdater(Call(&ProbeVessel::U_A));
-    p.Crashed = true;
     env.Run(1.0);
-    EXPECT_TRUE(p.runs.empty());
+    EXPECT_TRUE(crashed.runs.empty());
 }
 
 TEST_F(ProbeTest, VesselMadeWithoutScenarioStaysUnconfigured) {

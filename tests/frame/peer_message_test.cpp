@@ -37,35 +37,18 @@ TEST_F(ProbeTest, WithoutControllerEveryLookUpComesBackEmpty) {
     EXPECT_EQ(text, "");
     EXPECT_EQ(p.LookUpDouble("x"), 0.0);
     p.ReportEvent(1, "nobody hears", 1.0, 2.0, nullptr);
-}
-
-TEST_F(ProbeTest, DeletedVesselAnswersNothing) {
-    ProbeVessel &a = LoadProbe("A");
+    // Nor does a vessel that is gone.
     ProbeVessel &b = LoadProbe("B");
     OBJHANDLE hb = b.GetHandle();
     oapiDeleteVessel(hb);
-    EXPECT_EQ(a.SendPeerMessage(hb, 12, 0), 0);
+    EXPECT_EQ(p.SendPeerMessage(hb, 12, 0), 0);
 }
 
 class ControllerTest : public ProbeTest {
   protected:
-    ControllerTest() : controller(LoadProbe("Control")) {
-        controller.actAsController = true;
-        controller.subtypeAnswer = "Heavy";
-        std::memcpy(controller.sharedBlock, "shared", 7);
-    }
+    ControllerTest() : controller(LoadProbe("Control")) { controller.actAsController = true; }
     ProbeVessel &controller;
 };
-
-TEST_F(ControllerTest, VesselFindsItsControllerAndAsksForItsSubtype) {
-    env.Write("Config/Vessels/Test/Probe/Heavy.cfg", "Level = variant\n");
-    ProbeVessel &p = LoadProbe("P1");
-    EXPECT_EQ(p.ControllerObject, controller.GetHandle());
-    EXPECT_EQ(p.ControllerHullkit, &controller);
-    EXPECT_STREQ(static_cast<char *>(p.ControllerData), "shared");
-    EXPECT_EQ(p.subtype, "Heavy");
-    EXPECT_EQ(p.Cfg("Level"), "variant");
-}
 
 TEST_F(ControllerTest, ReportCarriesItsFieldsAtTheirOffsets) {
     ProbeVessel &p = LoadProbe("P1");

@@ -1,7 +1,5 @@
 #include "probe_vessel.h"
 
-#include <cstring>
-
 #include "frame/vessel_report.h"
 
 namespace {
@@ -64,12 +62,6 @@ intptr_t ProbeVessel::OnPeerMessage(OBJHANDLE sender, int code, intptr_t argumen
     switch (code) {
     case 1:
         return reinterpret_cast<intptr_t>(GetHandle());
-    case 3:
-        return reinterpret_cast<intptr_t>(sharedBlock);
-    case 7:
-        if (std::strcmp(reinterpret_cast<const char *>(argument), "ST") == 0 && !subtypeAnswer.empty())
-            return reinterpret_cast<intptr_t>(subtypeAnswer.c_str());
-        return 0;
     case 13: {
         auto *bytes = reinterpret_cast<const char *>(argument);
         reports.emplace_back(bytes, bytes + sizeof(VesselReport));

@@ -41,10 +41,10 @@ class ProbeVessel : public HULLKIT {
     std::vector<std::string> firstPass, secondPass, runs;
     int applyCount = 0;
 
-    // Controller behaviour, when this probe plays the controller.
+    // When this probe plays the controller, it answers the look-up for the
+    // controller and keeps the reports; the rest of the controller is the
+    // fleet controller's, tested with it.
     bool actAsController = false;
-    std::string subtypeAnswer;
-    char sharedBlock[256] = {};
     std::vector<int> receivedCodes;
     std::vector<std::vector<char>> reports;
 };

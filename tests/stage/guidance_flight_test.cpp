@@ -50,6 +50,20 @@ double PerigeeArgument(Korvan &k) {
     return std::fmod(el.omegab - el.theta + 4 * PI, 2 * PI);
 }
 
+// Frames of 0.1 s until the stage's first step is done: the frame in which
+// each condition first held, or -1.
+std::vector<int> FirstFrames(hullhost::World &world, Korvan &k,
+                             const std::vector<std::function<bool()>> &conditions) {
+    std::vector<int> at(conditions.size(), -1);
+    for (int frame = 1; frame <= 8000 && !k.program->steps[0].done; ++frame) {
+        world.Frame(0.1);
+        for (size_t i = 0; i < conditions.size(); ++i)
+            if (at[i] < 0 && conditions[i]())
+                at[i] = frame;
+    }
+    return at;
+}
+
 using Reached = std::function<bool(Korvan &)>;
 
 struct BurnCase {
@@ -98,25 +112,15 @@ TEST_P(BurnTest, EndsInTheFrameAfterItsTargetIsReached) {
     if (*c.extra)
         lines.push_back(c.extra);
     Korvan &k = Load(lines);
-    Run(1.0);
-    k.ToggleControlMode(); // M
+    Engage(k);
     ASSERT_FALSE(c.reached(k));
-    const double dt = 0.1;
-    int frame = 0, reachedAt = -1, doneAt = -1;
-    bool burned = false;
-    while (doneAt < 0 && frame < 4000) {
-        world->Frame(dt);
-        ++frame;
-        burned = burned || GroupLevel(k, "Main") == 1.0;
-        if (reachedAt < 0 && c.reached(k))
-            reachedAt = frame;
-        if (k.program->steps[0].done)
-            doneAt = frame;
-    }
-    ASSERT_GE(reachedAt, 0);
-    EXPECT_TRUE(burned);
+    const auto done = [&] { return k.program->steps[0].done; };
+    const std::vector<int> at = FirstFrames(
+        *world, k, {[&] { return GroupLevel(k, "Main") == 1.0; }, [&] { return c.reached(k); }, done});
+    ASSERT_GE(at[1], 0);
+    EXPECT_GE(at[0], 0); // it burned
     // Each tick sees the state the frame before it left.
-    EXPECT_EQ(doneAt, reachedAt + 1);
+    EXPECT_EQ(at[2], at[1] + 1);
     EXPECT_EQ(GroupLevel(k, "Main"), 0.0);
     EXPECT_EQ(k.program->current, &k.program->steps[1]);
 }
@@ -131,8 +135,7 @@ using FlightTest = StageTest;
 TEST_F(FlightTest, ApogeeWithThePerigeeArgumentBelow180GoesOnBurning) {
     Korvan &k = Load({Line("RPOS", {0, kR, 0}), Line("RVEL", {0, 0, kVc}), "PGM BURN PROGRADE APOE 400",
                       "PGM IDLE 100000", "PGM BURN"});
-    Run(1.0);
-    k.ToggleControlMode();
+    Engage(k);
     while (Apo(k) < 450e3 && world->simt < 300.0)
         world->Frame(0.1);
     EXPECT_GE(Apo(k), 450e3);
@@ -146,8 +149,7 @@ TEST_F(FlightTest, ApogeeWithThePerigeeArgumentBelow180GoesOnBurning) {
 // at once.
 TEST_F(FlightTest, ABurnWhoseTargetIsMetEndsInItsFirstTickWithNoFiringSpent) {
     Korvan &k = Load({"PGM BURN PROGRADE APO 100", "PGM BURN PROGRADE MOON", "PGM IDLE 100000"});
-    Run(1.0);
-    k.ToggleControlMode();
+    Engage(k);
     EXPECT_TRUE(k.ullageInProgress);
     world->Frame(0.1);
     EXPECT_TRUE(k.program->steps[0].done);
@@ -163,25 +165,15 @@ TEST_F(FlightTest, ABurnWhoseTargetIsMetEndsInItsFirstTickWithNoFiringSpent) {
 TEST_F(FlightTest, MoonBurnThrottlesDownAndEndsAtThePreparedApogee) {
     Korvan &k =
         Load({"AP_PARAMS 0 0 7000000 6650000", "PGM BURN PROGRADE MOON", "PGM IDLE 100000", "PGM BURN"});
-    Run(1.0);
-    k.ToggleControlMode();
+    Engage(k);
     const auto ap = [&] { return Apo(k) + 6371000.0; };
-    int frame = 0, throttleDue = -1, throttled = -1, endDue = -1, done = -1;
-    while (done < 0 && frame < 8000) {
-        world->Frame(0.1);
-        ++frame;
-        if (throttleDue < 0 && ap() > 6650000.0)
-            throttleDue = frame;
-        if (throttled < 0 && GroupLevel(k, "Main") == 0.1)
-            throttled = frame;
-        if (endDue < 0 && ap() > 7000000.0)
-            endDue = frame;
-        if (k.program->steps[0].done)
-            done = frame;
-    }
-    ASSERT_GT(throttleDue, 0);
-    EXPECT_EQ(throttled, throttleDue + 1);
-    EXPECT_EQ(done, endDue + 1);
+    const std::vector<int> at =
+        FirstFrames(*world, k,
+                    {[&] { return ap() > 6650000.0; }, [&] { return GroupLevel(k, "Main") == 0.1; },
+                     [&] { return ap() > 7000000.0; }, [&] { return k.program->steps[0].done; }});
+    ASSERT_GT(at[0], 0);
+    EXPECT_EQ(at[1], at[0] + 1); // throttled down
+    EXPECT_EQ(at[3], at[2] + 1); // ended
     EXPECT_EQ(GroupLevel(k, "Main"), 0.0);
 }
 
@@ -284,21 +276,19 @@ class LunarTest : public StageTest {
         pos = p * kR;
         vel = unit(crossp(h, p)) * kVc;
     }
-    Korvan &LoadTransfer(const char *name, bool autopilot = false) {
-        return Load({Line("RPOS", pos), Line("RVEL", vel), "PGM IDLE MOON -600", "PGM BURN PROGRADE MOON"},
-                    autopilot, name);
-    }
     OBJHANDLE earth, moon;
     VECTOR3 moonPos, moonVel, node, moonPlane, pos, vel;
 };
 
-TEST_F(LunarTest, PreparationMeetsTheMoonAtTheNodeInTwoBodyFlight) {
+// The preparation's results come back from a save in the coast; the
+// preparation run again after the reload finds the same apogee.
+TEST_F(LunarTest, PreparationMeetsTheMoonAtTheNodeInTwoBodyFlightAndSurvivesASave) {
     const double muMoon = 6.67259e-11 * (oapiGetMass(earth) + oapiGetMass(moon));
     const VECTOR3 toPeriapsis = moonPos * (dotp(moonVel, moonVel) / muMoon - 1 / length(moonPos)) -
                                 moonVel * (dotp(moonPos, moonVel) / muMoon);
     ASSERT_GT(dotp(toPeriapsis, moonPos), 0.0);
     ASSERT_GT(dotp(moonPos, moonVel), 0.0);
-    Korvan &k = LoadTransfer("K");
+    Korvan &k = Load({Line("RPOS", pos), Line("RVEL", vel), "PGM IDLE MOON -600", "PGM BURN PROGRADE MOON"});
     // The state it starts from, at the moment of the M key.
     oapiGetRelativePos(moon, earth, &moonPos);
     oapiGetRelativeVel(moon, earth, &moonVel);
@@ -334,21 +324,9 @@ TEST_F(LunarTest, PreparationMeetsTheMoonAtTheNodeInTwoBodyFlight) {
     EXPECT_LE(flight(apogee), k.MoonNodeTime + 1.0);
     EXPECT_GT(flight(apogee - step), k.MoonNodeTime - 1.0);
     EXPECT_DOUBLE_EQ(k.program->moonThrottleApogee, 0.95 * apogee);
-}
 
-// Saved in the coast, the preparation's results come back with the
-// program; the preparation run again after the reload finds the same apogee.
-TEST_F(LunarTest, PreparationSurvivesASaveInTheCoast) {
-    Korvan &k = LoadTransfer("K");
-    Run(1.0);
-    k.ToggleControlMode();
     Run(10.0);
-    hullhost::LineFile file;
-    k.clbkSaveState(file.Handle());
-    std::vector<std::string> saved = file.Written();
-    const auto params = std::find_if(saved.begin(), saved.end(),
-                                     [](const std::string &l) { return l.rfind("AP_PARAMS ", 0) == 0; });
-    ASSERT_NE(params, saved.end());
+    std::vector<std::string> saved = Saved(k);
     saved.push_back("HK_FLAGS 0 0"); // reloaded in manual control, the program waits
 
     Korvan &again = Load(saved, false, "K2");

@@ -9,12 +9,8 @@ class JettisonTest : public StageTest {
   protected:
     // A stage carrying two payloads of the shipped fleet.
     Korvan &LoadWithPayloads() {
-        for (const char *name : {"Sat-1", "Sat-2"}) {
-            hullhost::Vessel &v = world->ConstructVessel(name, "Fleet\\Generic");
-            world->LoadVesselState(
-                v, {"STATUS Orbiting Earth", "RPOS 6571010 0 0", "RVEL 0 0 7788.48", "SUBTYPE Payload"});
-            world->PostCreate(v); // complete, as when a scenario lists the payloads first
-        }
+        AddPayload("Sat-1");
+        AddPayload("Sat-2");
         return Load({"PAYLOAD1 Sat-1", "PAYLOAD2 Sat-2"});
     }
     // The empty mass the stage must have: its own, and all it carries.

@@ -132,9 +132,7 @@ TEST_F(EngineTest, SaveDuringUllageGoesOnAfterReload) {
     Run(1.0);
     k.IgniteMain();
     Run(4.0);
-    hullhost::LineFile file;
-    k.clbkSaveState(file.Handle());
-    const std::vector<std::string> saved = file.Written();
+    const std::vector<std::string> saved = Saved(k);
     EXPECT_THAT(saved, ::testing::Contains("IGNITE 1 0"));
     EXPECT_THAT(saved, ::testing::Contains("OPERATE 6.0000"));
 

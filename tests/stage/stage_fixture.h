@@ -45,6 +45,27 @@ class StageTest : public ::testing::Test {
         return *static_cast<Korvan *>(v.iface);
     }
 
+    // A payload vessel of the shipped fleet in the same orbit, complete, as
+    // when a scenario lists the payloads before their carrier.
+    void AddPayload(const std::string &name) {
+        hullhost::Vessel &v = world->ConstructVessel(name, "Fleet\\Generic");
+        world->LoadVesselState(
+            v, {"STATUS Orbiting Earth", "RPOS 6571010 0 0", "RVEL 0 0 7788.48", "SUBTYPE Payload"});
+        world->PostCreate(v);
+    }
+
+    // Past the idle first frame, the M key: the program starts.
+    void Engage(Korvan &k) {
+        Run(1.0);
+        k.ToggleControlMode();
+    }
+
+    static std::vector<std::string> Saved(Korvan &k) {
+        hullhost::LineFile file;
+        k.clbkSaveState(file.Handle());
+        return file.Written();
+    }
+
     // Frames of `dt` seconds until `seconds` have passed.
     void Run(double seconds, double dt = 1.0) {
         const double end = world->simt + seconds - 1e-9;

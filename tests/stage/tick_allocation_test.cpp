@@ -12,8 +12,7 @@ using TickAllocationTest = StageTest;
 TEST_F(TickAllocationTest, ProgramStepsAndTheirChangesAllocateNothing) {
     Korvan &k = Load({"PGM ATT PROGRADE 0.5", "PGM IDLE 0.5", "PGM BURN PROGRADE APO 100000", "PGM BURN"});
     k.OnFocusGained(nullptr);
-    Run(1.0);
-    k.ToggleControlMode();
+    Engage(k);
     k.AddUpdater(static_cast<VesselCall>(&Korvan::K_FLIGHT)); // the attitude loop behind the program
     const long before = allocations;
     for (int i = 0; i < 30; ++i)
