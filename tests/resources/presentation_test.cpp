@@ -121,31 +121,28 @@ TEST(MissionTime, FormatsHoursMinutesSecondsWithSign) {
     EXPECT_EQ(std::string(text).size(), 3u);
 }
 
+// a = 373, b = 36, y = 764: mode 1 stands at a, mode 2 at 0, modes 3 to 6 at
+// a + (mode - 1) b + 4; without the override, or out of range, no mark.
 TEST_F(PresentationTest, HudMarkStandsBelowTheOverriddenModeButton) {
     ProbeVessel &p = Load();
     p.clbkLoadGenericCockpit();
     HUDPAINTSPEC spec{1000, 800, 500, 400, 400.0, 16};
-    hullhost::HudSketchpad off;
-    EXPECT_TRUE(p.clbkDrawHUD(HUD_SURFACE, &spec, &off));
-    EXPECT_TRUE(off.Shapes().empty());
-
-    p.NavOverrideEnabled = true;
-    p.NavOverrideMode = 3;
-    hullhost::HudSketchpad pad;
-    EXPECT_TRUE(p.clbkDrawHUD(HUD_SURFACE, &spec, &pad));
-    ASSERT_EQ(pad.Shapes().size(), 1u);
-    const hullhost::HudShape &mark = pad.Shapes()[0];
-    EXPECT_EQ(mark.kind, hullhost::HudShape::RECTANGLE);
-    // a = 373, b = 36, y = 764; mode 3 stands at a + 2b + 4.
-    EXPECT_EQ((std::vector{mark.x0, mark.y0, mark.x1, mark.y1, mark.width}),
-              (std::vector{449, 764, 485, 800, 4}));
-    EXPECT_EQ(mark.colour, 0xffu);
-
-    p.NavOverrideMode = 2;
-    hullhost::HudSketchpad second;
-    p.clbkDrawHUD(HUD_SURFACE, &spec, &second);
-    ASSERT_EQ(second.Shapes().size(), 1u);
-    EXPECT_EQ(second.Shapes()[0].x0, 0);
+    for (const auto &[enabled, mode, x] :
+         {std::tuple{false, 3, -1}, {true, 3, 449}, {true, 1, 373}, {true, 2, 0}, {true, 7, -1}}) {
+        SCOPED_TRACE(mode);
+        p.NavOverrideEnabled = enabled;
+        p.NavOverrideMode = mode;
+        hullhost::HudSketchpad pad;
+        EXPECT_TRUE(p.clbkDrawHUD(HUD_SURFACE, &spec, &pad));
+        ASSERT_EQ(pad.Shapes().size(), x < 0 ? 0u : 1u);
+        if (x >= 0) {
+            const hullhost::HudShape &mark = pad.Shapes()[0];
+            EXPECT_EQ(mark.kind, hullhost::HudShape::RECTANGLE);
+            EXPECT_EQ((std::vector{mark.x0, mark.y0, mark.x1, mark.y1, mark.width}),
+                      (std::vector{x, 764, x + 36, 800, 4}));
+            EXPECT_EQ(mark.colour, 0xffu);
+        }
+    }
 }
 
 TEST_F(PresentationTest, VirtualCockpitKeyIsPressedOnlyWithTheFocusInTheCockpit) {
