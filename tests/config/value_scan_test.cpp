@@ -5,34 +5,30 @@
 #include <climits>
 #include <string>
 
-TEST(ScanDouble, ReadsLikePercentLfAndLeavesTargetWhenUnscannable) {
+// As %lf reads, within the first 255 characters; the target stays when
+// nothing scans.
+TEST(ScanDouble, ReadsLikePercentLfFromTheFirst255Characters) {
     double value = 3.25;
-    for (const char *bad : {"", "abc", "-"}) {
-        EXPECT_FALSE(ScanDouble(bad, value));
-    }
+    for (const char *bad : {"", "abc", "-"})
+        EXPECT_FALSE(ScanDouble(bad, value)) << bad;
     EXPECT_DOUBLE_EQ(value, 3.25);
-    EXPECT_TRUE(ScanDouble("  -12.5e2xyz", value));
-    EXPECT_DOUBLE_EQ(value, -1250.0);
-}
-
-TEST(ScanDouble, ReadsOnlyTheFirst255Characters) {
-    double value = 0.0;
-    EXPECT_TRUE(ScanDouble(std::string(254, '0') + "12345", value));
-    EXPECT_DOUBLE_EQ(value, 1.0);
-    EXPECT_TRUE(ScanDouble(std::string(100000, '9'), value));
-    EXPECT_GT(value, 1e250);
+    const std::pair<std::string, double> cases[] = {
+        {"  -12.5e2xyz", -1250.0}, {std::string(254, '0') + "12345", 1.0}, {std::string(100000, '9'), 1e255}};
+    for (const auto &[text, want] : cases) {
+        EXPECT_TRUE(ScanDouble(text, value));
+        EXPECT_DOUBLE_EQ(value, want) << text.substr(0, 20);
+    }
 }
 
 TEST(ScanInt, ReadsLikePercentDAndClamps) {
     int value = 5;
     EXPECT_FALSE(ScanInt("x1", value));
     EXPECT_EQ(value, 5);
-    EXPECT_TRUE(ScanInt(" -42abc", value));
-    EXPECT_EQ(value, -42);
-    EXPECT_TRUE(ScanInt("3.9", value));
-    EXPECT_EQ(value, 3);
-    EXPECT_TRUE(ScanInt("-99999999999999999999", value));
-    EXPECT_EQ(value, INT_MIN);
+    for (const auto &[text, want] :
+         {std::pair{" -42abc", -42}, {"3.9", 3}, {"-99999999999999999999", INT_MIN}}) {
+        EXPECT_TRUE(ScanInt(text, value));
+        EXPECT_EQ(value, want) << text;
+    }
 }
 
 TEST(IsTrue, OnlyTheExactLowerCaseWord) {

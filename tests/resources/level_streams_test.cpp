@@ -14,7 +14,7 @@ constexpr const char *kStreamParticles =
 
 } // namespace
 
-TEST_F(ResourceTest, StreamsFollowTheirLevelMembers) {
+TEST_F(ResourceTest, StreamsFollowTheirLevelMembersAndNeedTheirRecords) {
     Common(kPropulsionHeaders);
     Class(std::string(kStreamParticles) +
           "Tanks = {\n  Main 100\n}\n"
@@ -42,23 +42,19 @@ TEST_F(ResourceTest, StreamsFollowTheirLevelMembers) {
     EXPECT_THAT((Numbers{contrail.spec.srcsize, heat.spec.srcsize, dust.spec.srcsize}), Are({4, 3, 2}));
     EXPECT_EQ(contrail.spec.levelmap, PARTICLESTREAMSPEC::LVL_PSQRT);
     EXPECT_EQ(v.cgShift.z, 0.5);
-}
 
-TEST_F(ResourceTest, StreamsWithoutTheirRecordsOrAMainGroupAreLeftOut) {
-    Common(kPropulsionHeaders);
-    // A contrail record without a main group, and a main group whose first
-    // thruster doesn't exist.
+    // Without its record (the dust), or with a main group whose first thruster
+    // doesn't exist (the contrail), a stream is left out; without CG the
+    // centre stays.
     Class("Particles = {\n"
           "  Contrail     0 4 6 150 0.3 8 4 3 DIFFUSE LVL_PSQRT 0 0.5 ATM_PLOG 1 2\n"
           "  ContrailHeat 0 3 6 150 0.3 8 4 3 EMISSIVE LVL_FLAT 1 1 ATM_PLOG 1 2\n"
           "}\n"
-          "ThrusterGroups = {\n  Main Nobody 1\n}\n"
-          "NoReentryGlow = true\n");
-    ProbeVessel &p = Load();
-    hullhost::Vessel &v = Host();
-
-    ASSERT_EQ(v.streams.size(), 1u);
-    EXPECT_EQ(v.streams[0]->level, &p.HeatContrailLevel);
-    EXPECT_DOUBLE_EQ(v.streams[0]->pos.z, -10.0);
-    EXPECT_DOUBLE_EQ(v.cgShift.z, 0.0);
+          "ThrusterGroups = {\n  Main Nobody 1\n}\nNoReentryGlow = true\n");
+    ProbeVessel &q = LoadProbe("P2", {"STATUS Orbiting Earth"});
+    const hullhost::Vessel &other = *env.world->FindVessel("P2");
+    ASSERT_EQ(other.streams.size(), 1u);
+    EXPECT_EQ(other.streams[0]->level, &q.HeatContrailLevel);
+    EXPECT_DOUBLE_EQ(other.streams[0]->pos.z, -10.0);
+    EXPECT_DOUBLE_EQ(other.cgShift.z, 0.0);
 }

@@ -17,6 +17,18 @@ class MeshTest : public ResourceTest {
         "MESH_REC = Mesh Meshes SName SFile VPos SVis SLoad\n"
         "MATERIAL_REC = Material Materials SName SMesh SType AMatList\n";
 
+    // Hull and Glass loaded at creation, Door only when asked for, and two
+    // textures to put on them.
+    static constexpr const char *kMeshes = "Meshes = {\n"
+                                           "  Hull   Test\\Box  xyz0\n"
+                                           "  Door   Test\\Box  (1,2,3)  EXTERNAL  LATER\n"
+                                           "  Glass  Test\\Box  (0,0,1)  EXTERNAL\n"
+                                           "}\n"
+                                           "Textures = {\n"
+                                           "  tEx  EXHAUST  Test\\Flame\n"
+                                           "  tPa  PARTICLE Test\\Smoke\n"
+                                           "}\n";
+
     MeshTest() {
         env.Write("Meshes/Test/Box.msh", "HKMESH 1\n"
                                          "MATERIAL hull\n"

@@ -52,72 +52,48 @@ TEST_F(MeshTest, MeshesReachTheHostInTableOrderWithTheirOffsetsAndModes) {
     EXPECT_FALSE(p.HasGlowMaterials || p.HasAlphaMaterials);
 }
 
-TEST_F(MeshTest, AMeshNotLoadedAtCreationIsLoadedLaterOnce) {
-    Meshes("Meshes = {\n"
-           "  Hull   Test\\Box  xyz0\n"
-           "  Door   Test\\Box  (1,2,3)  NEVER   LATER\n"
-           "}\n");
+// Show, hide and modes reach only their own mesh; a mesh outside the host
+// keeps its mode for its loading, which happens once, when asked for.
+TEST_F(MeshTest, MeshesChangeModesAndLoadLaterOnce) {
+    Meshes(kMeshes);
     ProbeVessel &p = Load();
     hullhost::Vessel &v = Host();
-    ASSERT_EQ(v.meshes.size(), 1u);
-
-    p.LoadMeshByName("Nobody", true, false);
-    p.LoadMeshByName("Door", false, false); // not asked to: stays out
-    ASSERT_EQ(v.meshes.size(), 1u);
-
-    p.LoadMeshByName("Door", true, false);
-    const MESH_REC *door = p.MeshTable.Find("Door");
-    ASSERT_EQ(v.meshes.size(), 2u);
-    EXPECT_TRUE(door->load);
-    EXPECT_EQ(door->index, 1u);
-    EXPECT_NE(door->handle, nullptr);
-    EXPECT_THAT(Offsets(v), Are({0, 0, 0, 1, 2, 3}));
-    EXPECT_THAT(Modes(v), ElementsAre(MESHVIS_ALWAYS, MESHVIS_NEVER));
-    EXPECT_NE(Device(1), nullptr); // the visual follows
-
-    // A second request keeps the one mesh and only sets the external pass.
-    p.LoadMeshByName(std::string("Door"), true, true);
-    ASSERT_EQ(v.meshes.size(), 2u);
-    EXPECT_EQ(v.meshes[1].visibility, 0x13);
-    EXPECT_EQ(door->vis, 0x13);
-}
-
-TEST_F(MeshTest, HideShowAndModesReachOnlyTheirOwnMesh) {
-    Meshes("Meshes = {\n"
-           "  Hull   Test\\Box  xyz0\n"
-           "  Door   Test\\Box  (1,2,3)  EXTERNAL  LATER\n"
-           "  Glass  Test\\Box  (0,0,1)  EXTERNAL\n"
-           "}\n");
-    ProbeVessel &p = Load();
-    hullhost::Vessel &v = Host();
-
     p.HideMesh("Glass");
     EXPECT_EQ(v.meshes[1].visibility, MESHVIS_NEVER);
     p.ShowMesh("Glass");
     EXPECT_EQ(v.meshes[1].visibility, MESHVIS_ALWAYS);
     p.SetMeshVis("Glass", MESHVIS_VC);
-    EXPECT_THAT(Modes(v), ElementsAre(MESHVIS_ALWAYS, MESHVIS_VC));
-
-    // A mesh outside the host keeps its mode for its loading and leaves the
-    // mesh at index 0 alone; a name without a record changes nothing.
     p.HideMesh("Door");
     p.HideMesh("Nobody");
+    EXPECT_THAT(Modes(v), ElementsAre(MESHVIS_ALWAYS, MESHVIS_VC));
+
+    p.LoadMeshByName("Nobody", true, false);
+    p.LoadMeshByName("Door", false, false); // not asked to: stays out
+    ASSERT_EQ(v.meshes.size(), 2u);
     p.LoadMeshByName("Door", true, false);
+    const MESH_REC *door = p.MeshTable.Find("Door");
+    ASSERT_EQ(v.meshes.size(), 3u);
+    EXPECT_TRUE(door->load);
+    EXPECT_EQ(door->index, 2u);
+    EXPECT_NE(door->handle, nullptr);
+    EXPECT_THAT(Offsets(v), Are({0, 0, 0, 0, 0, 1, 1, 2, 3}));
     EXPECT_THAT(Modes(v), ElementsAre(MESHVIS_ALWAYS, MESHVIS_VC, MESHVIS_NEVER));
+    EXPECT_NE(Device(2), nullptr); // the visual follows
+
+    // A second request keeps the one mesh and only sets the external pass.
+    p.LoadMeshByName(std::string("Door"), true, true);
+    ASSERT_EQ(v.meshes.size(), 3u);
+    EXPECT_EQ(v.meshes[2].visibility, 0x13);
+    EXPECT_EQ(door->vis, 0x13);
 }
 
 TEST_F(MeshTest, MaterialsTakeTheirMeshAndSetTheVesselFlags) {
-    Meshes("Meshes = {\n"
-           "  Hull   Test\\Box  xyz0\n"
-           "  Door   Test\\Box  xyz0  ALWAYS  LATER\n"
-           "  Glass  Test\\Box  xyz0\n"
-           "}\n"
-           "Materials = {\n"
-           "  mGlow  Glass   ReentryGlow  0 1\n"
-           "  mFade  Hull    ReentryAlpha 1\n"
-           "  mOut   Door    ReentryAlpha 0\n"
-           "  mNone  Nobody  Other\n"
-           "}\n");
+    Meshes(std::string(kMeshes) + "Materials = {\n"
+                                  "  mGlow  Glass   ReentryGlow  0 1\n"
+                                  "  mFade  Hull    ReentryAlpha 1\n"
+                                  "  mOut   Door    ReentryAlpha 0\n"
+                                  "  mNone  Nobody  Other\n"
+                                  "}\n");
     ProbeVessel &p = Load();
 
     const MATERIAL_REC *glow = p.MaterialTable.Find("mGlow");

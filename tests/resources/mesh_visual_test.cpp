@@ -5,20 +5,6 @@
 
 #include "mesh_fixture.h"
 
-namespace {
-
-constexpr const char *kTwoMeshes = "Meshes = {\n"
-                                   "  Hull   Test\\Box  xyz0\n"
-                                   "  Door   Test\\Box  xyz0  ALWAYS  LATER\n"
-                                   "  Glass  Test\\Box  xyz0\n"
-                                   "}\n"
-                                   "Textures = {\n"
-                                   "  tEx  EXHAUST  Test\\Flame\n"
-                                   "  tPa  PARTICLE Test\\Smoke\n"
-                                   "}\n";
-
-} // namespace
-
 TEST_F(MeshTest, TexturesAreLoadedByTheirType) {
     env.Write("Textures/Test/Pic.bmp", "BM");
     Meshes("Textures = {\n"
@@ -58,7 +44,7 @@ TEST_F(MeshTest, TexturesAreLoadedByTheirType) {
 }
 
 TEST_F(MeshTest, ReplacedTexturesReachTheVisualNowAndEachNewOne) {
-    Meshes(kTwoMeshes);
+    Meshes(kMeshes);
     ProbeVessel &p = Load();
     const SURFHANDLE exhaust = p.TextureTable.Find("tEx")->surface;
     const SURFHANDLE particle = p.TextureTable.Find("tPa")->surface;
@@ -97,7 +83,7 @@ TEST_F(MeshTest, ReplacedTexturesReachTheVisualNowAndEachNewOne) {
 }
 
 TEST_F(MeshTest, GroupVisibilityReachesTheUserFlagsAndIsKeptWhileItDiffers) {
-    Meshes(kTwoMeshes);
+    Meshes(kMeshes);
     ProbeVessel &p = Load();
     ASSERT_EQ(Device(0)->groups[1].userFlag, 0u);
 
@@ -137,12 +123,7 @@ TEST_F(MeshTest, GroupVisibilityReachesTheUserFlagsAndIsKeptWhileItDiffers) {
 }
 
 TEST_F(MeshTest, ShadowEditEndsAtTheFirstMeshNotLoaded) {
-    Class("NoReentryGlow = true\nHideShadows = true\n"
-          "Meshes = {\n"
-          "  Hull   Test\\Box  xyz0\n"
-          "  Door   Test\\Box  xyz0  ALWAYS  LATER\n"
-          "  Glass  Test\\Box  xyz0\n"
-          "}\n");
+    Meshes(std::string("HideShadows = true\n") + kMeshes);
     Load();
     EXPECT_EQ(Device(0)->groups[0].userFlag, 3u); // its own flag 2, and no shadow
     EXPECT_EQ(Device(0)->groups[1].userFlag, 1u);

@@ -1,6 +1,7 @@
 // What the user sees of a vessel: the camera walk, the message line, the
 // mission time and the mark on the head-up display.
 
+#include "numbers.h"
 #include "resource_fixture.h"
 #include "screen/hud_sketchpad.h"
 
@@ -28,54 +29,44 @@ class PresentationTest : public ResourceTest {
     }
 };
 
-TEST_F(PresentationTest, CameraWalkSkipsDisabledRecordsAndWraps) {
-    ProbeVessel &p = LoadCameras("  a (1,0,0) zplus 0 0\n"
-                                 "  b (2,0,0) zplus 0 1\n"
-                                 "  c (3,0,0) yplus 0 0\n"
-                                 "  d (4,0,0) zplus 0 1\n");
+// The walk skips disabled records and wraps; a reselection prefers the saved
+// camera, then "fwd", then the first; rotation limits apply only when every
+// one of them lies strictly inside a right angle.
+TEST_F(PresentationTest, CameraWalkReselectionAndRotationRange) {
+    ProbeVessel &p = LoadCameras("  a   (1,0,0) zplus 0 0 0.5 0.6 0.7 0.8\n"
+                                 "  b   (2,0,0) zplus 0 1\n"
+                                 "  fwd (3,0,0) yplus 0 0 0.5 0.6 1.5707963267948966 0.8\n"
+                                 "  d   (4,0,0) zplus 0 1\n");
+    const auto &camera = Host().camera;
     EXPECT_EQ(p.CurrentCamera, "a");
-    p.NextCamera();
-    EXPECT_EQ(p.CurrentCamera, "c");
+    p.ApplyCamera();
+    EXPECT_THAT((Numbers{camera.rangeLeft, camera.rangeUp, camera.rangeDown}), Are({0.5, 0.7, 0.8}));
     VECTOR3 offset;
-    p.GetCameraOffset(offset);
-    EXPECT_DOUBLE_EQ(offset.x, 3.0);
-    p.NextCamera(); // past the disabled last record back to the first
-    EXPECT_EQ(p.CurrentCamera, "a");
-    // Standing on a disabled record, the walk goes on to the next enabled one.
+    for (const char *next : {"fwd", "a"}) {
+        p.NextCamera();
+        EXPECT_EQ(p.CurrentCamera, next);
+    }
     p.CurrentCamera = "b";
     p.NextCamera();
-    EXPECT_EQ(p.CurrentCamera, "c");
-}
-
-TEST_F(PresentationTest, CameraWalkWithOneRecordReappliesIt) {
-    ProbeVessel &one = LoadCameras("  only (5,0,0) zplus 0 0\n");
-    one.NextCamera();
-    EXPECT_EQ(one.CurrentCamera, "only");
-    VECTOR3 offset;
-    one.GetCameraOffset(offset);
-    EXPECT_DOUBLE_EQ(offset.x, 5.0);
-}
-
-TEST_F(PresentationTest, RotationRangeIsSetOnlyWithEveryLimitStrictlyInside) {
-    ProbeVessel &p = LoadCameras("  in (0,0,0) zplus 0 0 0.5 0.6 0.7 0.8\n"
-                                 "  edge (0,0,0) zplus 0 0 0.5 0.6 1.5707963267948966 0.8\n");
-    p.ApplyCamera();
-    const auto &camera = Host().camera;
-    EXPECT_DOUBLE_EQ(camera.rangeLeft, 0.5);
-    EXPECT_DOUBLE_EQ(camera.rangeDown, 0.8);
-    p.CurrentCamera = "edge";
-    p.ApplyCamera();
+    EXPECT_EQ(p.CurrentCamera, "fwd");
+    p.GetCameraOffset(offset);
+    EXPECT_DOUBLE_EQ(offset.x, 3.0);
     EXPECT_DOUBLE_EQ(camera.rangeUp, 0.7); // pi/2 is out of bounds: the range stays
-}
 
-TEST_F(PresentationTest, ReselectPrefersSavedThenFwdThenFirst) {
-    ProbeVessel &p = LoadCameras("  a (0,0,0) zplus\n  fwd (0,0,0) zplus\n  c (0,0,0) zplus\n");
-    p.SavedCamera = "c";
+    p.SavedCamera = "a";
     p.ReselectCamera();
-    EXPECT_EQ(p.CurrentCamera, "c");
+    EXPECT_EQ(p.CurrentCamera, "a");
     p.SavedCamera = "gone";
     p.ReselectCamera();
     EXPECT_EQ(p.CurrentCamera, "fwd");
+
+    // With one record the walk applies it again.
+    Class("Cameras = {\n  only (5,0,0) zplus 0 0\n}\n");
+    ProbeVessel &one = LoadProbe("P2", {"STATUS Orbiting Earth"});
+    one.NextCamera();
+    EXPECT_EQ(one.CurrentCamera, "only");
+    one.GetCameraOffset(offset);
+    EXPECT_DOUBLE_EQ(offset.x, 5.0);
 }
 
 TEST_F(PresentationTest, MessageLineEmptiesFourSecondsAfterTheFirstText) {
@@ -121,40 +112,37 @@ TEST_F(PresentationTest, AutoSwitchToggleNeedsItsFlagAndSecondaryToggleReportsEn
 
 TEST(MissionTime, FormatsHoursMinutesSecondsWithSign) {
     char text[16];
-    HULLKIT::FormatMissionTime(-3661.5, text, sizeof text);
-    EXPECT_STREQ(text, "-01:01:01");
-    HULLKIT::FormatMissionTime(59.9, text, sizeof text);
-    EXPECT_STREQ(text, "00:00:59");
-    HULLKIT::FormatMissionTime(360000.0, text, sizeof text);
-    EXPECT_STREQ(text, "100:00:00");
+    for (const auto &[time, want] :
+         {std::pair{-3661.5, "-01:01:01"}, {59.9, "00:00:59"}, {360000.0, "100:00:00"}}) {
+        HULLKIT::FormatMissionTime(time, text, sizeof text);
+        EXPECT_STREQ(text, want);
+    }
     HULLKIT::FormatMissionTime(1e300, text, 4); // cut to the buffer, no overflow
     EXPECT_EQ(std::string(text).size(), 3u);
 }
 
+// a = 373, b = 36, y = 764: mode 1 stands at a, mode 2 at 0, modes 3 to 6 at
+// a + (mode - 1) b + 4; without the override, or out of range, no mark.
 TEST_F(PresentationTest, HudMarkStandsBelowTheOverriddenModeButton) {
     ProbeVessel &p = Load();
     p.clbkLoadGenericCockpit();
     HUDPAINTSPEC spec{1000, 800, 500, 400, 400.0, 16};
-    hullhost::HudSketchpad off;
-    EXPECT_TRUE(p.clbkDrawHUD(HUD_SURFACE, &spec, &off));
-    EXPECT_TRUE(off.Shapes().empty());
-
-    p.NavOverrideEnabled = true;
-    p.NavOverrideMode = 3;
-    hullhost::HudSketchpad pad;
-    EXPECT_TRUE(p.clbkDrawHUD(HUD_SURFACE, &spec, &pad));
-    ASSERT_EQ(pad.Shapes().size(), 1u);
-    const hullhost::HudShape &mark = pad.Shapes()[0];
-    EXPECT_EQ(mark.kind, hullhost::HudShape::RECTANGLE);
-    // a = 373, b = 36, y = 764; mode 3 stands at a + 2b + 4.
-    EXPECT_EQ((std::vector{mark.x0, mark.y0, mark.x1, mark.y1, mark.width}), (std::vector{449, 764, 485, 800, 4}));
-    EXPECT_EQ(mark.colour, 0xffu);
-
-    p.NavOverrideMode = 2;
-    hullhost::HudSketchpad second;
-    p.clbkDrawHUD(HUD_SURFACE, &spec, &second);
-    ASSERT_EQ(second.Shapes().size(), 1u);
-    EXPECT_EQ(second.Shapes()[0].x0, 0);
+    for (const auto &[enabled, mode, x] :
+         {std::tuple{false, 3, -1}, {true, 3, 449}, {true, 1, 373}, {true, 2, 0}, {true, 7, -1}}) {
+        SCOPED_TRACE(mode);
+        p.NavOverrideEnabled = enabled;
+        p.NavOverrideMode = mode;
+        hullhost::HudSketchpad pad;
+        EXPECT_TRUE(p.clbkDrawHUD(HUD_SURFACE, &spec, &pad));
+        ASSERT_EQ(pad.Shapes().size(), x < 0 ? 0u : 1u);
+        if (x >= 0) {
+            const hullhost::HudShape &mark = pad.Shapes()[0];
+            EXPECT_EQ(mark.kind, hullhost::HudShape::RECTANGLE);
+            EXPECT_EQ((std::vector{mark.x0, mark.y0, mark.x1, mark.y1, mark.width}),
+                      (std::vector{x, 764, x + 36, 800, 4}));
+            EXPECT_EQ(mark.colour, 0xffu);
+        }
+    }
 }
 
 TEST_F(PresentationTest, VirtualCockpitKeyIsPressedOnlyWithTheFocusInTheCockpit) {

@@ -46,7 +46,7 @@ TEST_F(ResourceTest, ScenarioResourceLinesReplaceOrAddRecordsAndAreKept) {
     EXPECT_EQ(p.MainTank, Host().propellants[0]->Handle());
 }
 
-TEST_F(ResourceTest, DefaultRecordsComeFirstAndScenarioLinesCanOverrideThem) {
+TEST_F(ResourceTest, DefaultRecordsComeFirstUnlessConfiguredAndScenarioLinesCanOverrideThem) {
     Common(std::string(kPropulsionHeaders) + "SPOTLIGHTSET_REC = SpotSet SpotlightSets SName VPos\n");
     Class("ReentryShinePos = 1 2 3\nSpotlightSets = {\n  Mast 0 0 0\n}\n");
     ProbeVessel &p = Load({"RESOURCE Tanks Virtual 3"});
@@ -69,13 +69,12 @@ TEST_F(ResourceTest, DefaultRecordsComeFirstAndScenarioLinesCanOverrideThem) {
     ASSERT_EQ(Host().groups.size(), 2u);
     EXPECT_EQ(Host().groups[0]->thrusters.size(), 2u);
     EXPECT_EQ(Host().groups[1]->type, THGROUP_USER);
-}
 
-TEST_F(ResourceTest, ConfiguredCamerasAndWrecksKeepTheDefaultsAway) {
+    // Configured cameras and wrecks keep the defaults away.
     Common(std::string(kPropulsionHeaders) + "WRECK_REC = Wreck Wrecks SName SFile\n");
     Class("Cameras = {\n  aft 0 0 0 0 0 -1\n  top 0 1 0 0 0 1\n}\nWrecks = {\n  Piece Fleet\\Piece\n}\n");
-    ProbeVessel &p = Load();
-    EXPECT_THAT(p.CameraTable.names, ElementsAre("aft", "top"));
-    EXPECT_EQ(p.CurrentCamera, "aft");
-    EXPECT_EQ(p.WreckSingle, "");
+    ProbeVessel &q = LoadProbe("P2", {"STATUS Orbiting Earth"});
+    EXPECT_THAT(q.CameraTable.names, ElementsAre("aft", "top"));
+    EXPECT_EQ(q.CurrentCamera, "aft");
+    EXPECT_EQ(q.WreckSingle, "");
 }

@@ -18,15 +18,6 @@ std::vector<std::string> Keys(const std::vector<std::string> &lines) {
 
 } // namespace
 
-// The probe stands at the Earth's centre: within reach of the ground and in air.
-TEST_F(ScenarioTest, FreshVesselWritesOnlyTheUpdatersItRuns) {
-    ProbeVessel &p = Load();
-    EXPECT_THAT(FrameworkLines(p),
-                ElementsAre("UPDATERS H_ANIM, H_ME_WATCH, H_TIMER_P1S, H_GROUND_WATCH, H_ATM_FLT, "
-                            "H_CONTRAIL, ",
-                            "TIMERS_P1S H_PLN_ENTER_EXIT, H_ATM_ENTER_EXIT, "));
-}
-
 TEST_F(ScenarioTest, SaveInMidFlightComesBackToTheSameStateAndText) {
     ProbeVessel &p = Load({"SUBTYPE None"});
     p.AddOneShot(3.25, &HULLKIT::H_DUST);
@@ -154,4 +145,19 @@ TEST_F(ScenarioTest, LandedVesselWritesItsSurfacePlaceAndAnAttachedOneNoPlace) {
     p.Attached = false;
     p.AwareWhileAttached = true;
     EXPECT_EQ(Save(p), FrameworkLines(p));
+}
+
+// The two sequence lines are written back as they were read, and the
+// sequences go on from there.
+TEST_F(ScenarioTest, SequencesGoOnFromTheirLines) {
+    Class(std::string(kClassText) + "Launch = 1 DO_A 3 DO_B\nRelease = WHEN_A WHEN_B\n");
+    ProbeVessel &p = Load({"TIMED_SEQUENCE Launch, 1.5", "CONDITIONAL_SEQUENCE Release 1,0,"});
+    const std::vector<std::string> saved = FrameworkLines(p);
+    EXPECT_THAT(saved, Contains("TIMED_SEQUENCE Launch, 1.500000"));
+    EXPECT_THAT(saved, Contains("CONDITIONAL_SEQUENCE Release 1,0,"));
+    // WHEN_A, its flag up, is passed by; DO_A, below the clock, fires at once.
+    p.flagB = true;
+    env.world->Frame(0.5); // the step after creation does nothing
+    env.world->Frame(1.0);
+    EXPECT_THAT(p.steps, ElementsAre("S_A@2.500000", "S_B@2.500000"));
 }
