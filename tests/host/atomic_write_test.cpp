@@ -12,7 +12,7 @@ using hosttest::TempDir;
 using hosttest::WriteText;
 using hullhost::WriteFileAtomically;
 
-TEST(AtomicWriteTest, WritesAndReplacesWithoutLeftovers) {
+TEST(AtomicWriteTest, WritesAndReplacesWithoutLeftoversAndOrdinaryPermissions) {
     TempDir dir;
     const std::string file = dir / "out.json";
     WriteFileAtomically(file, "first");
@@ -22,16 +22,12 @@ TEST(AtomicWriteTest, WritesAndReplacesWithoutLeftovers) {
     WriteFileAtomically(file, "");
     EXPECT_EQ(ReadText(file), "");
     EXPECT_EQ(FolderEntries(dir.Path().string()), std::vector<std::string>{"out.json"});
-}
-
-TEST(AtomicWriteTest, NewFileGetsOrdinaryPermissions) {
-    TempDir dir;
-    const std::string file = dir / "out.scn";
+    // A new file gets ordinary permissions, not those of a temporary file.
     mode_t old = ::umask(022);
-    WriteFileAtomically(file, "text");
+    WriteFileAtomically(dir / "new.scn", "text");
     ::umask(old);
     struct stat st {};
-    ASSERT_EQ(::stat(file.c_str(), &st), 0);
+    ASSERT_EQ(::stat((dir / "new.scn").c_str(), &st), 0);
     EXPECT_EQ(st.st_mode & 0777, 0644u);
 }
 

@@ -1,5 +1,5 @@
-// The head-up display: the recording surface, its SVG with the annotations,
-// and hullsim run --hud drawing the focus vessel's display.
+// The head-up display: what a module draws, its SVG with the annotations, and
+// hullsim run --hud drawing the focus vessel's display.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -26,28 +26,10 @@ std::vector<XmlElement> Named(const std::vector<XmlElement> &elements, const std
 
 } // namespace
 
-TEST(HudSketchpad, RecordsShapesWithThePenAndTextColourInForce) {
-    hullhost::HudSketchpad pad;
-    oapi::Pen pen(1, 3, 0x123456);
-    EXPECT_EQ(pad.SetPen(&pen), nullptr);
-    pad.MoveTo(1, 2);
-    pad.LineTo(3, 4);
-    pad.LineTo(5, 6); // continues from where the last line ended
-    EXPECT_EQ(pad.SetPen(nullptr), &pen);
-    pad.Rectangle(10, 20, 30, 40);
-    pad.SetTextColor(0xff);
-    pad.Text(7, 8, "abc\0def", 7);
-    ASSERT_EQ(pad.Shapes().size(), 4u);
-    const auto &second = pad.Shapes()[1];
-    EXPECT_EQ(second.kind, hullhost::HudShape::LINE);
-    EXPECT_EQ((std::vector{second.x0, second.y1, second.width}), (std::vector{3, 6, 3}));
-    EXPECT_EQ(second.colour, 0x123456u);
-    EXPECT_FALSE(pad.Shapes()[2].stroked);
-    EXPECT_EQ(pad.Shapes()[3].text, "abc");
-    EXPECT_EQ(pad.Shapes()[3].colour, 0xffu);
-}
-
-TEST(HudSvg, WellFormedWithEscapedTextsAndTheAnnotationsLines) {
+// What a module draws, as the SVG shows it: lines that go on from where the
+// last one ended, in the pen in force (none: not stroked), texts cut at their
+// length and escaped, and the annotations line by line.
+TEST(HudSvg, ShowsTheShapesDrawnWithThePenAndTextColourInForceAndTheAnnotations) {
     hosttest::TempDir root;
     hullhost::World world{root.Path().string()};
     auto note = std::make_unique<hullhost::Annotation>();
@@ -57,23 +39,40 @@ TEST(HudSvg, WellFormedWithEscapedTextsAndTheAnnotationsLines) {
     world.annotations.push_back(std::make_unique<hullhost::Annotation>()); // empty: not drawn
 
     hullhost::HudSketchpad pad;
-    oapi::Pen pen(1, 4, 0xff);
-    pad.SetPen(&pen);
+    oapi::Pen pen(1, 3, 0x123456), red(1, 4, 0xff);
+    EXPECT_EQ(pad.SetPen(&pen), nullptr);
+    pad.MoveTo(1, 2);
+    pad.LineTo(3, 4);
+    pad.LineTo(5, 6);
+    EXPECT_EQ(pad.SetPen(&red), &pen);
     pad.Rectangle(30, 40, 10, 20);
-    pad.Text(0, 0, "x<y>", 4);
+    pad.SetPen(nullptr);
+    pad.Rectangle(0, 0, 1, 1);
+    pad.SetTextColor(0xff);
+    pad.Text(7, 8, "x<y>\0def", 8);
     const std::vector<XmlElement> svg = ParseXml(hullhost::HudSvg(pad, world, 200, 100));
     ASSERT_EQ(svg.front().name, "svg");
     EXPECT_EQ(svg.front().attributes.at("width"), "200");
 
+    const auto lines = Named(svg, "line");
+    ASSERT_EQ(lines.size(), 2u);
+    const auto &second = lines[1].attributes;
+    EXPECT_EQ((std::vector{second.at("x1"), second.at("y1"), second.at("x2"), second.at("y2")}),
+              (std::vector<std::string>{"3", "4", "5", "6"}));
+    EXPECT_EQ(second.at("stroke"), "#563412");
+    EXPECT_EQ(second.at("stroke-width"), "3");
+
     const auto rects = Named(svg, "rect");
-    ASSERT_EQ(rects.size(), 2u); // the background and the drawn one
+    ASSERT_EQ(rects.size(), 3u); // the background and the drawn ones
     EXPECT_EQ(rects[1].attributes.at("x"), "10");
     EXPECT_EQ(rects[1].attributes.at("height"), "20");
     EXPECT_EQ(rects[1].attributes.at("stroke"), "#ff0000");
+    EXPECT_EQ(rects[2].attributes.at("stroke"), "none");
 
     const auto texts = Named(svg, "text");
     ASSERT_EQ(texts.size(), 3u);
     EXPECT_EQ(texts[0].text, "x<y>");
+    EXPECT_EQ(texts[0].attributes.at("fill"), "#ff0000");
     EXPECT_EQ(texts[1].text, "a<b & \"c\"");
     EXPECT_EQ(texts[1].attributes.at("fill"), "#ff8000");
     EXPECT_EQ(texts[2].text, "second? line"); // a control character becomes ?

@@ -5,13 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <nlohmann/json.hpp>
-#include <sstream>
 
-#include "OrbiterAPI.h"
 #include "hullsim_fixture.h"
 
+using hosttest::ReadEvents;
 using hosttest::ReadText;
+using hosttest::Vec;
 using hosttest::WriteText;
 using json = nlohmann::json;
 
@@ -19,18 +18,6 @@ namespace {
 
 using HullsimAttitudeTest = hosttest::HullsimFixture;
 
-std::vector<json> Events(const std::string &path, const std::string &kind) {
-    std::vector<json> events;
-    std::istringstream in(ReadText(path));
-    for (std::string line; std::getline(in, line);) {
-        json e = json::parse(line);
-        if (e["kind"] == kind)
-            events.push_back(e);
-    }
-    return events;
-}
-
-VECTOR3 Vec(const json &a) { return {a[0].get<double>(), a[1].get<double>(), a[2].get<double>()}; }
 VECTOR3 Unit(const VECTOR3 &v) { return v / length(v); }
 
 struct ModeCase {
@@ -61,12 +48,10 @@ TEST_F(HullsimAttitudeTest, EachModeTurnsTheStageAndHoldsIt) {
     for (const ModeCase &c : cases) {
         SCOPED_TRACE(c.keys);
         WriteText(dir / "keys.txt", c.keys);
-        const hosttest::Result r = Run({"run", dir / "orbit.scn", "--root", HULLKIT_BUILD_ROOT, "--for",
-                                        "300", "--dt", "0.05", "--keys", dir / "keys.txt", "--state",
-                                        dir / "state.json", "--events", dir / "events.jsonl"});
-        ASSERT_EQ(r.code, 0) << r.err;
+        Fly(dir / "orbit.scn", {"--for", "300", "--dt", "0.05", "--keys", dir / "keys.txt", "--state",
+                                dir / "state.json", "--events", dir / "events.jsonl"});
         std::string trace;
-        for (const json &e : Events(dir / "events.jsonl", "navmode")) {
+        for (const json &e : ReadEvents(dir / "events.jsonl", "navmode")) {
             EXPECT_EQ(e["vessel"], "K");
             trace += (trace.empty() ? "" : " ") + std::to_string(e["mode"].get<int>()) + ":" +
                      (e["active"].get<bool>() ? "1" : "0");
@@ -117,7 +102,7 @@ TEST_F(HullsimAttitudeTest, WarpRaisesAfterDropsAndKeepsUnderACap) {
                  dir / "out.scn", "--events", dir / "events.jsonl", "--state", dir / "state.json"});
         ASSERT_EQ(r.code, 0) << r.err;
         std::vector<double> accels;
-        for (const json &e : Events(dir / "events.jsonl", "timeaccel"))
+        for (const json &e : ReadEvents(dir / "events.jsonl", "timeaccel"))
             accels.push_back(e["value"].get<double>());
         EXPECT_EQ(accels, c.accels);
         EXPECT_NE(ReadText(dir / "out.scn").find("PROBE_FRAMES " + std::to_string(c.frames)),

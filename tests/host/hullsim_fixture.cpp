@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
+#include <stdexcept>
 #include <sys/wait.h>
 
 namespace hosttest {
@@ -20,19 +21,49 @@ std::string Quote(const std::string &s) {
 
 } // namespace
 
-std::map<long, std::vector<double>> CsvRowsByTime(const std::string &path, double step) {
-    std::istringstream csv(ReadText(path));
-    std::map<long, std::vector<double>> rows;
-    std::string line;
-    std::getline(csv, line);
-    while (std::getline(csv, line)) {
-        std::vector<double> fields;
+std::vector<std::vector<std::string>> ReadCsv(const std::string &path, std::string &header) {
+    std::istringstream in(ReadText(path));
+    std::getline(in, header);
+    std::vector<std::vector<std::string>> rows;
+    for (std::string line; std::getline(in, line);) {
         std::istringstream cells(line);
+        rows.emplace_back();
         for (std::string cell; std::getline(cells, cell, ',');)
+            rows.back().push_back(cell);
+    }
+    return rows;
+}
+
+std::map<long, std::vector<double>> CsvRowsByTime(const std::string &path, double step) {
+    std::string header;
+    std::map<long, std::vector<double>> rows;
+    for (const auto &cells : ReadCsv(path, header)) {
+        std::vector<double> fields;
+        for (const std::string &cell : cells)
             fields.push_back(std::atof(cell.c_str()));
         rows[std::lround(fields.at(0) / step)] = fields;
     }
     return rows;
+}
+
+std::vector<nlohmann::json> ReadEvents(const std::string &path, const std::string &kind) {
+    std::vector<nlohmann::json> events;
+    std::istringstream in(ReadText(path));
+    for (std::string line; std::getline(in, line);)
+        if (auto e = nlohmann::json::parse(line); kind.empty() || e["kind"] == kind)
+            events.push_back(std::move(e));
+    return events;
+}
+
+const nlohmann::json &VesselIn(const nlohmann::json &state, const std::string &name) {
+    for (const auto &v : state["vessels"])
+        if (v["name"] == name)
+            return v;
+    throw std::runtime_error("no vessel " + name);
+}
+
+VECTOR3 Vec(const nlohmann::json &xyz) {
+    return {xyz[0].get<double>(), xyz[1].get<double>(), xyz[2].get<double>()};
 }
 
 HullsimFixture::HullsimFixture() {
@@ -56,6 +87,13 @@ Result HullsimFixture::Run(const std::vector<std::string> &args, const std::stri
     r.out = ReadText(out);
     r.err = ReadText(err);
     return r;
+}
+
+void HullsimFixture::Fly(const std::string &scenario, const std::vector<std::string> &extra) const {
+    std::vector<std::string> args = {"run", scenario, "--root", HULLKIT_BUILD_ROOT};
+    args.insert(args.end(), extra.begin(), extra.end());
+    const Result r = Run(args);
+    EXPECT_EQ(r.code, 0) << r.err;
 }
 
 void HullsimFixture::ExpectError(const std::vector<std::string> &args, int code,

@@ -1,47 +1,73 @@
-// The shipped fleet through hullsim, as a user runs it: a piece standing on
-// the ground for a day, and Korvan stages flown by a key script.
+// The shipped fleet through hullsim, as a user runs it: landed vessels
+// standing on the ground for a day, and Korvan stages flown by a key script.
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <nlohmann/json.hpp>
-#include <sstream>
+#include <map>
+#include <tuple>
 
 #include "hullsim_fixture.h"
 
+using hosttest::ReadEvents;
 using hosttest::ReadText;
 using hosttest::WriteText;
+using nlohmann::json;
 
 namespace {
 
 using HullsimFleetTest = hosttest::HullsimFixture;
 
-// Stays where it stands, landed, turning with the Earth, at several time
-// accelerations and frame lengths.
-TEST_F(HullsimFleetTest, LandedPieceStaysPutForADayAtAnyAcceleration) {
+// Every landed vessel stays where it stands, turning with the Earth, for a
+// day at any time acceleration and frame length: a piece on its own and
+// those of the shipped scenarios.
+TEST_F(HullsimFleetTest, LandedVesselsStayPutForADayAtAnyAcceleration) {
     WriteText(dir / "landed.scn", "BEGIN_ENVIRONMENT\n  Date MJD 61000.5\nEND_ENVIRONMENT\n"
                                   "BEGIN_SHIPS\nG-1:Fleet\\Generic\n  STATUS Landed Earth\n"
                                   "  POS -80.6 28.5\n  HEADING 90\nEND\nEND_SHIPS\n");
-    auto surface = [&](const std::vector<std::string> &extra) {
-        std::vector<std::string> args = {"run",     dir / "landed.scn", "--root", HULLKIT_BUILD_ROOT,
-                                         "--state", dir / "state.json"};
-        args.insert(args.end(), extra.begin(), extra.end());
-        const hosttest::Result r = Run(args);
-        EXPECT_EQ(r.code, 0) << r.err;
-        const auto json = nlohmann::json::parse(ReadText(dir / "state.json"));
-        EXPECT_EQ(json["vessels"][0]["status"], "landed");
-        return json["vessels"][0]["surface"];
+    // The places of the landed vessels, by name, after a run with `extra`.
+    const auto places = [&](const std::string &scenario, std::vector<std::string> extra) {
+        extra.insert(extra.end(), {"--state", dir / "state.json"});
+        Fly(scenario, extra);
+        std::map<std::string, json> out;
+        const json state = json::parse(ReadText(dir / "state.json"));
+        for (const json &v : state["vessels"])
+            if (v["status"] == "landed")
+                out[v["name"]] = v["surface"];
+        return out;
     };
-    const auto start = surface({});
-    EXPECT_NEAR(start["longitude"].get<double>(), -80.6, 1e-9);
-    EXPECT_NEAR(start["heading"].get<double>(), 90.0, 1e-9);
+    const auto start = places(dir / "landed.scn", {});
+    ASSERT_TRUE(start.contains("G-1"));
+    EXPECT_NEAR(start.at("G-1")["longitude"].get<double>(), -80.6, 1e-9);
+    EXPECT_NEAR(start.at("G-1")["heading"].get<double>(), 90.0, 1e-9);
 
     constexpr double kMetresPerDegree = 6371010.0 * 0.017453292519943295;
-    for (auto [accel, dt] : {std::pair{"1", "1"}, {"10", "0.5"}, {"100", "0.1"}, {"1000", "0.05"}}) {
-        const auto end = surface({"--for", "86400", "--accel", accel, "--dt", dt});
-        EXPECT_NEAR(end["latitude"].get<double>(), 28.5, 0.01 / kMetresPerDegree) << accel;
-        EXPECT_NEAR(end["longitude"].get<double>(), -80.6, 0.01 / kMetresPerDegree / 0.88) << accel;
-        EXPECT_NEAR(end["altitude"].get<double>(), start["altitude"].get<double>(), 0.01) << accel;
-        EXPECT_NEAR(end["heading"].get<double>(), 90.0, 0.001) << accel;
+    const std::string landed = dir / "landed.scn";
+    for (auto [scenario, accel, dt] : {std::tuple{landed, "1", "1"},
+                                       {landed, "10", "0.5"},
+                                       {landed, "100", "0.1"},
+                                       {landed, "1000", "0.05"},
+                                       {std::string("KorvanLanded"), "1", "1"},
+                                       {std::string("KorvanLanded"), "1000", "1"},
+                                       {std::string("KorvanFlight"), "1", "1"},
+                                       {std::string("KorvanFlight"), "1000", "1"},
+                                       {std::string("FairingReentry"), "1", "1"},
+                                       {std::string("FairingReentry"), "1000", "1"}}) {
+        SCOPED_TRACE(scenario + " at " + accel);
+        const auto before = places(scenario, {});
+        ASSERT_FALSE(before.empty());
+        const auto after = places(scenario, {"--for", "86400", "--accel", accel, "--dt", dt});
+        for (const auto &[name, place] : before) {
+            ASSERT_TRUE(after.contains(name)) << name;
+            const json &end = after.at(name);
+            EXPECT_NEAR(end["latitude"].get<double>(), place["latitude"].get<double>(),
+                        0.01 / kMetresPerDegree)
+                << name;
+            EXPECT_NEAR(end["longitude"].get<double>(), place["longitude"].get<double>(),
+                        0.01 / kMetresPerDegree / 0.88)
+                << name;
+            EXPECT_NEAR(end["altitude"].get<double>(), place["altitude"].get<double>(), 0.01) << name;
+            EXPECT_NEAR(end["heading"].get<double>(), place["heading"].get<double>(), 0.001) << name;
+        }
     }
 }
 
@@ -67,17 +93,13 @@ TEST_F(HullsimFleetTest, StagesFlownByKeysIgniteBurnShutDownAndRefuse) {
     WriteText(dir / "fly.keys", "1 M\n2 KP_PLUS 11\n40 KP_MINUS 0.2\n"
                                 "41 Shift+TAB\n42 KP_PLUS 0.1\n43 Shift+TAB\n44 KP_PLUS 0.1\n"
                                 "45 Shift+TAB\n46 KP_PLUS 0.1\n47 Shift+TAB\n48 KP_PLUS 0.1\n");
-    const hosttest::Result r =
-        Run({"run", dir / "fleet.scn", "--root", HULLKIT_BUILD_ROOT, "--for", "50", "--dt", "0.1", "--keys",
-             dir / "fly.keys", "--events", dir / "events.jsonl", "--telemetry", dir / "flight.csv", "--track",
-             "K1", "--telemetry-interval", "1"});
-    ASSERT_EQ(r.code, 0) << r.err;
+    Fly(dir / "fleet.scn",
+        {"--for", "50", "--dt", "0.1", "--keys", dir / "fly.keys", "--events", dir / "events.jsonl",
+         "--telemetry", dir / "flight.csv", "--track", "K1", "--telemetry-interval", "1"});
 
     std::vector<std::pair<std::string, std::string>> messages;
     std::vector<std::pair<double, double>> engine;
-    std::istringstream events(ReadText(dir / "events.jsonl"));
-    for (std::string line; std::getline(events, line);) {
-        const auto e = nlohmann::json::parse(line);
+    for (const json &e : ReadEvents(dir / "events.jsonl")) {
         if (e["kind"] == "message" && e["text"] != "")
             messages.emplace_back(e["vessel"], e["text"]);
         if (e["kind"] == "engine" && e["vessel"] == "K1")
@@ -122,15 +144,12 @@ TEST_F(HullsimFleetTest, FlightProgramBurnsToItsTargetAndSavesTheRest) {
                              "  PGM IDLE 600\n") +
                   "END_SHIPS\n");
     WriteText(dir / "m.keys", "1 M\n");
-    const hosttest::Result r = Run({"run", dir / "program.scn", "--root", HULLKIT_BUILD_ROOT, "--for", "60",
-                                    "--dt", "0.1", "--keys", dir / "m.keys", "--events", dir / "events.jsonl",
-                                    "--save", dir / "out.scn", "--state", dir / "state.json"});
-    ASSERT_EQ(r.code, 0) << r.err;
+    Fly(dir / "program.scn",
+        {"--for", "60", "--dt", "0.1", "--keys", dir / "m.keys", "--events", dir / "events.jsonl", "--save",
+         dir / "out.scn", "--state", dir / "state.json"});
     std::vector<std::string> messages;
     std::vector<double> engine;
-    std::istringstream events(ReadText(dir / "events.jsonl"));
-    for (std::string line; std::getline(events, line);) {
-        const auto e = nlohmann::json::parse(line);
+    for (const json &e : ReadEvents(dir / "events.jsonl")) {
         if (e["kind"] == "message" && e["text"] != "")
             messages.push_back(e["text"]);
         if (e["kind"] == "engine")
@@ -142,7 +161,7 @@ TEST_F(HullsimFleetTest, FlightProgramBurnsToItsTargetAndSavesTheRest) {
     // Lit after 5 s of holding and 10 s of ullage; out at 400 km.
     ASSERT_EQ(engine.size(), 2u);
     EXPECT_NEAR(engine[0], 16.2, 0.15);
-    const auto state = nlohmann::json::parse(ReadText(dir / "state.json"));
+    const auto state = json::parse(ReadText(dir / "state.json"));
     EXPECT_EQ(state["debugString"].get<std::string>().rfind("Coasting: ", 0), 0u) << state["debugString"];
     const std::string saved = ReadText(dir / "out.scn");
     EXPECT_EQ(saved.find("PGM ATT"), std::string::npos) << saved;

@@ -2,12 +2,10 @@
 // leaves, and the event log of a run (--events), through the hullsim program.
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
-#include <sstream>
-
 #include "hullsim_fixture.h"
 #include "scenario/scenario_file.h"
 
+using hosttest::ReadEvents;
 using hosttest::ReadText;
 using hosttest::Result;
 using hosttest::WriteText;
@@ -28,15 +26,6 @@ class HullsimKeysEventsTest : public hosttest::HullsimFixture {
             text += "END\n";
         }
         WriteText(Root() + "/Scenarios/" + name + ".scn", text + "END_SHIPS\n");
-    }
-
-    // The lines of an event log, each parsed.
-    static std::vector<json> Events(const std::string &path) {
-        std::vector<json> events;
-        std::istringstream in(ReadText(path));
-        for (std::string line; std::getline(in, line);)
-            events.push_back(json::parse(line));
-        return events;
     }
 };
 
@@ -73,9 +62,8 @@ TEST_F(HullsimKeysEventsTest, HostActsOnlyOnKeysTheVesselLeaves) {
         const json &tanks = s["vessels"][0]["propellants"];
         const double rcsFuelPerFrame = 50.0 / 2000.0 * 0.02;
         std::vector<double> levels;
-        for (const json &e : Events(events))
-            if (e["kind"] == "engine")
-                levels.push_back(e["level"].get<double>());
+        for (const json &e : ReadEvents(events, "engine"))
+            levels.push_back(e["level"].get<double>());
         if (answer != "0 0") {
             EXPECT_EQ(Level(s), 0.0);
             EXPECT_EQ(tanks[1]["mass"], 10.0);
@@ -130,7 +118,7 @@ TEST_F(HullsimKeysEventsTest, EventLogTellsWhatHappenedInOrder) {
         {{"t", 0.08}, {"kind", "message"}, {"vessel", "A"}, {"text", ""}},
         {{"t", 0.16}, {"kind", "message"}, {"vessel", "A"}, {"text", "bye"}},
     };
-    std::vector<json> got = Events(events);
+    std::vector<json> got = ReadEvents(events);
     ASSERT_EQ(got.size(), expected.size()) << ReadText(events);
     for (size_t i = 0; i < got.size(); ++i) {
         EXPECT_NEAR(got[i]["t"].get<double>(), expected[i]["t"].get<double>(), 1e-9) << i;
@@ -149,7 +137,7 @@ TEST_F(HullsimKeysEventsTest, EventsAreWrittenWhenTheRunFails) {
     ExpectError({"run", "fails", "--root", Root(), "--for", "1", "--events", events, "--state", state}, 1,
                 "probe failure");
     EXPECT_FALSE(std::filesystem::exists(state));
-    const std::vector<json> got = Events(events);
+    const std::vector<json> got = ReadEvents(events);
     ASSERT_EQ(got.size(), 4u) << ReadText(events);
     EXPECT_EQ(got[2]["text"], "hello");
     EXPECT_EQ(got[3]["text"], "");

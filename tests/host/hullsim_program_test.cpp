@@ -21,11 +21,16 @@ namespace {
 
 using HullsimProgramTest = hosttest::HullsimFixture;
 
-TEST_F(HullsimProgramTest, HelpGoesToStandardOutput) {
-    Result r = Run({"--help"});
-    EXPECT_EQ(r.code, 0);
-    EXPECT_NE(r.out.find("hullsim run"), std::string::npos) << r.out;
-    EXPECT_TRUE(r.err.empty());
+TEST_F(HullsimProgramTest, HelpListsTheRunOptionsOnStandardOutput) {
+    for (auto args : {std::vector<std::string>{"--help"}, {"-h"}, {"run", "--help"}}) {
+        Result r = Run(args);
+        EXPECT_EQ(r.code, 0);
+        EXPECT_TRUE(r.err.empty()) << r.err;
+        for (const char *word : {"hullsim run", "SCENARIO", "--root", "--for", "--dt", "--accel", "--warp",
+                                 "--seed", "--save", "--save-at", "--state", "--keys", "--log", "--telemetry",
+                                 "--track", "--telemetry-interval", "--plot"})
+            EXPECT_NE(r.out.find(word), std::string::npos) << word << " in\n" << r.out;
+    }
 }
 
 TEST_F(HullsimProgramTest, UsageErrorsEndWithCodeTwo) {
@@ -50,6 +55,10 @@ TEST_F(HullsimProgramTest, RunErrorsEndWithCodeOneAndWriteNothing) {
 
     WriteText(Root() + "/Scenarios/broken.scn", "BEGIN_SHIPS\nP Test\\Probe\nEND\nEND_SHIPS\n");
     ExpectError({"run", "broken.scn", "--root", Root(), "--save", save}, 1, "broken.scn:2: ship line");
+    // A tracked vessel is looked for once the scenario is loaded, before any frame.
+    ExpectError({"run", "probe", "--root", Root(), "--for", "1", "--track", "P", "--track", "Nobody",
+                 "--telemetry", dir / "t.csv", "--plot", dir / "chart.svg", "--save", save},
+                1, "--track Nobody: the scenario has no vessel of that name");
 
     // A class whose module file is not a library.
     WriteText(Root() + "/Config/Vessels/Test/Fake.cfg", "Module = Test\\Fake\n");

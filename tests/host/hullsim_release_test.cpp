@@ -4,13 +4,15 @@
 // reload.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
-#include <nlohmann/json.hpp>
-#include <sstream>
+#include <tuple>
 
 #include "hullsim_fixture.h"
 
+using hosttest::ReadEvents;
 using hosttest::ReadText;
+using hosttest::VesselIn;
 using hosttest::WriteText;
 using nlohmann::json;
 
@@ -18,24 +20,16 @@ namespace {
 
 class HullsimReleaseTest : public hosttest::HullsimFixture {
   protected:
-    // Runs `scenario` with `extra` options and the events in events.jsonl.
+    // Runs `scenario` with `extra` options, keeping its events.
     void Fly(const std::string &scenario, std::vector<std::string> extra) {
-        std::vector<std::string> args = {"run", scenario, "--root", HULLKIT_BUILD_ROOT, "--dt",
-                                         "0.1", "--seed", "7",      "--events",         dir / "events.jsonl"};
-        args.insert(args.end(), extra.begin(), extra.end());
-        const hosttest::Result r = Run(args);
-        ASSERT_EQ(r.code, 0) << r.err;
-        events.clear();
-        std::istringstream lines(ReadText(dir / "events.jsonl"));
-        for (std::string line; std::getline(lines, line);)
-            events.push_back(json::parse(line));
+        extra.insert(extra.end(), {"--dt", "0.1", "--seed", "7", "--events", dir / "events.jsonl"});
+        HullsimFixture::Fly(scenario, extra);
+        events = ReadEvents(dir / "events.jsonl");
     }
-    // The events of `kind`.
     std::vector<json> Of(const char *kind) const {
         std::vector<json> out;
-        for (const json &e : events)
-            if (e["kind"] == kind)
-                out.push_back(e);
+        std::copy_if(events.begin(), events.end(), std::back_inserter(out),
+                     [kind](const json &e) { return e["kind"] == kind; });
         return out;
     }
     // The shipped scenario with its carrier's sequence line replaced.
@@ -131,14 +125,9 @@ TEST_F(HullsimReleaseTest, ConditionalReleaseWaitsForTheCarrierToBeStill) {
         EXPECT_EQ(carrier.find("C_STILL_WATCH") != std::string::npos, !released) << carrier;
         // The carrier weighs with its load until it lets it go.
         const json state = json::parse(ReadText(dir / "state.json"));
-        double carrierEmpty = 0.0, stage = 0.0;
-        for (const json &v : state["vessels"]) {
-            if (v["name"] == "Carrier-1")
-                carrierEmpty = v["emptyMass"];
-            if (v["name"] == "Korvan-1")
-                stage = v["mass"];
-        }
-        EXPECT_DOUBLE_EQ(carrierEmpty, 2350.0 + (released ? 0.0 : stage)) << vrot;
+        EXPECT_DOUBLE_EQ(VesselIn(state, "Carrier-1")["emptyMass"].get<double>(),
+                         2350.0 + (released ? 0.0 : VesselIn(state, "Korvan-1")["mass"].get<double>()))
+            << vrot;
     }
 }
 
@@ -167,21 +156,19 @@ TEST_F(HullsimReleaseTest, LandedChainOfThreeStaysTogether) {
                                   "C:Fleet\\Carrier\n  STATUS Landed Earth\n  POS -80.6 28.5\n  HEADING 90\n"
                                   "  STAGE K\nEND\nEND_SHIPS\n");
     Fly(dir / "landed.scn", {"--for", "600", "--accel", "10", "--state", dir / "state.json"});
-    std::map<std::string, json> by;
     const json state = json::parse(ReadText(dir / "state.json"));
-    for (const json &v : state["vessels"])
-        by[v["name"].get<std::string>()] = v;
-    EXPECT_EQ(by["C"]["status"], "landed");
-    EXPECT_EQ(by["K"]["parent"], "C");
-    EXPECT_EQ(by["Sat-1"]["parent"], "K");
+    const json &carrier = VesselIn(state, "C");
+    EXPECT_EQ(carrier["status"], "landed");
     // Stacked along the carrier's axis: the stage's centre 6.0 m above the
     // carrier's, the payload's 2.2 m above the stage's.
-    const double base = by["C"]["surface"]["altitude"];
-    EXPECT_NEAR(by["K"]["surface"]["altitude"].get<double>() - base, 6.0, 0.01);
-    EXPECT_NEAR(by["Sat-1"]["surface"]["altitude"].get<double>() - base, 8.2, 0.01);
-    for (const char *name : {"K", "Sat-1"}) {
-        EXPECT_NEAR(by[name]["surface"]["longitude"].get<double>(), -80.6, 1e-6) << name;
-        EXPECT_NEAR(by[name]["surface"]["latitude"].get<double>(), 28.5, 1e-6) << name;
+    for (auto [name, parent, height] : {std::tuple{"K", "C", 6.0}, {"Sat-1", "K", 8.2}}) {
+        const json &v = VesselIn(state, name);
+        EXPECT_EQ(v["parent"], parent);
+        EXPECT_NEAR(v["surface"]["altitude"].get<double>() - carrier["surface"]["altitude"].get<double>(),
+                    height, 0.01)
+            << name;
+        EXPECT_NEAR(v["surface"]["longitude"].get<double>(), -80.6, 1e-6) << name;
+        EXPECT_NEAR(v["surface"]["latitude"].get<double>(), 28.5, 1e-6) << name;
     }
 }
 

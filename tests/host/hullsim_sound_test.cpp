@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
 
@@ -50,11 +49,9 @@ class HullsimSoundTest : public hosttest::HullsimFixture {
             args.push_back("--sound");
         const hosttest::Result r = Run(args);
         EXPECT_EQ(r.code, 0) << r.err;
-        std::vector<json> out;
-        std::istringstream lines(ReadText(dir / "events.jsonl"));
-        for (std::string line; std::getline(lines, line);)
-            if (json e = json::parse(line); e["kind"] == "sound" || e["kind"] == "detached")
-                out.push_back(e);
+        std::vector<json> out = hosttest::ReadEvents(dir / "events.jsonl", "sound");
+        for (const json &e : hosttest::ReadEvents(dir / "events.jsonl", "detached"))
+            out.push_back(e);
         return out;
     }
     static std::vector<json> Of(const std::vector<json> &events, const char *op) {

@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <cstdio>
-#include <sstream>
 
 #include "hullsim_fixture.h"
 #include "xml_check.h"
@@ -34,20 +33,6 @@ class HullsimTelemetryTest : public hosttest::HullsimFixture {
 
 using Row = std::vector<std::string>;
 
-std::vector<Row> ReadCsv(const std::string &path, std::string &header) {
-    std::istringstream in(ReadText(path));
-    std::getline(in, header);
-    std::vector<Row> rows;
-    for (std::string line; std::getline(in, line);) {
-        Row row;
-        std::istringstream fields(line);
-        for (std::string field; std::getline(fields, field, ',');)
-            row.push_back(field);
-        rows.push_back(row);
-    }
-    return rows;
-}
-
 double Number(const Row &row, size_t column) { return std::stod(row.at(column)); }
 
 enum Column { kTime, kVessel, kAltitude, kSpeed, kApogee, kPerigee, kInclination, kMass, kMainLevel };
@@ -57,7 +42,7 @@ TEST_F(HullsimTelemetryTest, CsvOfTheFocusVesselEverySecond) {
     Result r = Run({"run", "orbit", "--root", Root(), "--for", "3", "--dt", "0.1", "--telemetry", csv});
     ASSERT_EQ(r.code, 0) << r.err;
     std::string header;
-    const std::vector<Row> rows = ReadCsv(csv, header);
+    const std::vector<Row> rows = hosttest::ReadCsv(csv, header);
     EXPECT_EQ(header, "time_s,vessel,altitude_m,speed_m_s,apogee_altitude_m,perigee_altitude_m,"
                       "inclination_deg,mass_kg,main_thrust_level");
     // At the start and at each whole second, though ten frames of 0.1 s add
@@ -86,7 +71,7 @@ TEST_F(HullsimTelemetryTest, TrackedVesselsInTheirOrderAndTheirChart) {
                     "--track", "P", "--telemetry-interval", "0.5", "--telemetry", csv, "--plot", svg});
     ASSERT_EQ(r.code, 0) << r.err;
     std::string header;
-    const std::vector<Row> rows = ReadCsv(csv, header);
+    const std::vector<Row> rows = hosttest::ReadCsv(csv, header);
     ASSERT_EQ(rows.size(), 6u) << ReadText(csv);
     for (size_t k = 0; k < rows.size(); ++k) {
         EXPECT_EQ(rows[k][kTime], k < 2 ? "0.000" : k < 4 ? "0.500" : "1.000");
@@ -164,17 +149,6 @@ TEST_F(HullsimTelemetryTest, SummaryOfABurnAndAMoonPassAndTheirOrbitView) {
         found.push_back(km);
     }
     EXPECT_NEAR(found[0], found[1], 1.0);
-}
-
-TEST_F(HullsimTelemetryTest, FailedTelemetryRunsWriteNothing) {
-    const std::string csv = dir / "t.csv", svg = dir / "chart.svg", save = dir / "s.scn";
-    ExpectError({"run", "orbit", "--root", Root(), "--plot", dir / "nofolder/chart.svg"}, 1, "nofolder");
-    // The vessel is looked for once the scenario is loaded, before any frame.
-    ExpectError({"run", "orbit", "--root", Root(), "--for", "1", "--track", "P", "--track", "Nobody",
-                 "--telemetry", csv, "--plot", svg, "--save", save},
-                1, "--track Nobody: the scenario has no vessel of that name");
-    EXPECT_EQ(hosttest::FolderEntries(dir.Path().string()),
-              (std::vector<std::string>{"err.txt", "out.txt", "root"}));
 }
 
 } // namespace

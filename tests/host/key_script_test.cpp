@@ -6,12 +6,10 @@
 #include "sim/key_names.h"
 #include "sim/key_script.h"
 #include "sim/usage_error.h"
-#include "temp_dir.h"
 
 using hullhost::sim::KeyAction;
 using hullhost::sim::KeyCode;
 using hullhost::sim::ParseKeyScript;
-using hullhost::sim::ReadKeyScript;
 using hullhost::sim::UsageError;
 
 namespace {
@@ -25,7 +23,7 @@ std::string ScriptError(const std::string &text) {
     return "(no error)";
 }
 
-TEST(KeyNamesTest, MapsNamesToScanCodes) {
+TEST(KeyNamesTest, MapsNamesToScanCodesAndNoOthers) {
     // The ends of each letter row and the digit row catch a shifted table.
     std::istringstream names("M j Q P A L Z 1 9 0 F1 F10 F11 f12 TAB Space RETURN KP_PLUS KP_MINUS "
                              "KP_MULTIPLY KP_DIVIDE KP_ENTER KP_0 KP_7 UP left");
@@ -40,9 +38,6 @@ TEST(KeyNamesTest, MapsNamesToScanCodes) {
         names >> name;
         EXPECT_EQ(KeyCode(name), DWORD(code)) << name;
     }
-}
-
-TEST(KeyNamesTest, UnknownNamesHaveNoCode) {
     for (const char *name : {"", "F0", "F13", "F1x", "KP_", "KP_10", "PLUS", "+", "MM", "Ä"})
         EXPECT_FALSE(KeyCode(name).has_value()) << name;
 }
@@ -105,22 +100,6 @@ TEST(KeyScriptTest, ErrorsNameTheLine) {
     EXPECT_EQ(ScriptError("1 M 2s\n"), "k.txt:1: bad hold time '2s': expected seconds, more than 0");
     EXPECT_EQ(ScriptError("\n\n1\n"), "k.txt:3: expected 'TIME KEY [SECONDS]'");
     EXPECT_EQ(ScriptError("1 M 2 3\n"), "k.txt:1: expected 'TIME KEY [SECONDS]'");
-}
-
-TEST(KeyScriptTest, ReadsFiles) {
-    hosttest::TempDir dir;
-    hosttest::WriteText(dir / "keys.txt", "0.5 C\n");
-    auto actions = ReadKeyScript(dir / "keys.txt");
-    ASSERT_EQ(actions.size(), 1u);
-    EXPECT_EQ(actions[0].key, DWORD(OAPI_KEY_C));
-    // A missing file is not a usage error: the run fails.
-    try {
-        ReadKeyScript(dir / "none.txt");
-        FAIL() << "no error";
-    } catch (const UsageError &) {
-        FAIL() << "a missing file is a run error";
-    } catch (const std::runtime_error &) {
-    }
 }
 
 } // namespace

@@ -77,7 +77,7 @@ TEST(ScenarioFileTest, WrittenTextReadsBackEqualWithEveryDigitOfTheDate) {
     EXPECT_EQ(ScenarioFile::Parse(text).Text(), text);
 }
 
-TEST(ScenarioFileTest, WritesTheHostLayout) {
+TEST(ScenarioFileTest, WritesTheHostLayoutWithOnlyTheSectionsItHas) {
     ScenarioFile scn;
     scn.mjd = 51544.5;
     scn.focus = "A";
@@ -94,13 +94,9 @@ TEST(ScenarioFileTest, WritesTheHostLayout) {
                           "  RPOS 1 2 3\n"
                           "END\n"
                           "END_SHIPS\n");
-}
-
-TEST(ScenarioFileTest, MinimalScenarioNeedsOnlyShips) {
-    ScenarioFile scn = ScenarioFile::Parse("BEGIN_SHIPS\nA:F\\C\nEND\nEND_SHIPS");
-    EXPECT_FALSE(scn.mjd.has_value());
-    EXPECT_TRUE(scn.focus.empty());
-    ASSERT_EQ(scn.vessels.size(), 1u);
+    // A scenario needs only its ships, and is written back with nothing more.
+    EXPECT_EQ(ScenarioFile::Parse("BEGIN_SHIPS\nA:F\\C\nEND\nEND_SHIPS").Text(),
+              "BEGIN_SHIPS\nA:F\\C\nEND\nEND_SHIPS\n");
 }
 
 TEST(ScenarioFileTest, MalformedScenariosNameTheLine) {
@@ -114,6 +110,8 @@ TEST(ScenarioFileTest, MalformedScenariosNameTheLine) {
         {"BEGIN_SHIPS\n:Fleet\\Korvan\nEND\nEND_SHIPS\n",
          "t.scn:2: ship line ':Fleet\\Korvan' needs 'name:Folder\\Class'"},
         {"BEGIN_SHIPS\nA:\nEND\nEND_SHIPS\n", "t.scn:2: ship line 'A:' needs 'name:Folder\\Class'"},
+        {std::string("BEGIN_SHIPS\n\0:\nEND\nEND_SHIPS\n", 29),
+         "t.scn:2: ship line '\\x00:' needs 'name:Folder\\Class'"},
         {"BEGIN_SHIPS\nA:F\\C\n  X 1\nEND_SHIPS\n", "t.scn:2: vessel 'A' has no END line"},
         {"BEGIN_SHIPS\nA:F\\C\n  X 1\n", "t.scn:2: vessel 'A' has no END line"},
         {"BEGIN_SHIPS\nA:F\\C\nEND\n", "t.scn:1: section has no END_SHIPS"},
@@ -139,19 +137,9 @@ TEST(ScenarioFileTest, MalformedScenariosNameTheLine) {
     EXPECT_EQ(scn.environment, std::vector<std::string>{"Date JD 2451545.0"});
 }
 
-TEST(ScenarioFileTest, BinaryGarbageIsAnErrorNotACrash) {
-    std::string garbage;
-    for (int i = 0; i < 4096; ++i)
-        garbage += static_cast<char>((i * 7919) % 256);
-    EXPECT_THROW(ScenarioFile::Parse(garbage), ScenarioError);
-    EXPECT_THROW(ScenarioFile::Parse(std::string("BEGIN_SHIPS\n\0:\n", 15)), ScenarioError);
-}
-
-TEST(ScenarioFileTest, ReadsFilesAndNamesThemInErrors) {
+TEST(ScenarioFileTest, FilesAreNamedInErrors) {
     hosttest::TempDir dir;
-    hosttest::WriteText(dir / "ok.scn", "BEGIN_SHIPS\nA:F\\C\nEND\nEND_SHIPS\n");
     hosttest::WriteText(dir / "bad.scn", "BEGIN_SHIPS\nA\nEND\nEND_SHIPS\n");
-    EXPECT_EQ(ScenarioFile::Read(dir / "ok.scn").vessels.size(), 1u);
     try {
         ScenarioFile::Read(dir / "bad.scn");
         FAIL() << "no error";
