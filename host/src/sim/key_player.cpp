@@ -40,11 +40,6 @@ void KeyPlayer::AfterFrame(double nextFrameSimt, double step, char *keyState,
     UpdateKeyState(keyState);
 }
 
-bool KeyPlayer::Busy() const {
-    return std::any_of(entries_.begin(), entries_.end(),
-                       [](const Entry &e) { return e.phase != Phase::Done; });
-}
-
 void KeyPlayer::UpdateKeyState(char *keyState) {
     std::vector<DWORD> down;
     for (const auto &e : entries_) {

@@ -30,9 +30,6 @@ class KeyPlayer {
     // ends the actions that are over and lifts their keys.
     void AfterFrame(double nextFrameSimt, double step, char *keyState, std::deque<KeyEvent> &buffered);
 
-    // True while an action is still to start or to end.
-    bool Busy() const;
-
   private:
     enum class Phase { Waiting, Down, Done };
     struct Entry {
