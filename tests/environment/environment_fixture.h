@@ -15,25 +15,12 @@
 
 #include "core/body.h"
 #include "core/line_file.h"
-#include "core/program_module.h"
 #include "core/world.h"
-#include "stage/korvan.h"
+#include "korvan_world.h"
 
 class EnvironmentTest : public ::testing::Test {
   protected:
-    EnvironmentTest() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-        world->seed = 11;
-        hullhost::SetProgramModulePath("Modules\\Fleet\\Korvan.dll");
-        world->modules.RegisterBuiltin(
-            "Fleet\\Korvan", [](OBJHANDLE h, int fm) -> VESSEL * { return new Korvan(h, fm); },
-            [](VESSEL *v) { delete static_cast<Korvan *>(v); });
-    }
-    ~EnvironmentTest() override {
-        world.reset();
-        std::filesystem::current_path(previous_);
-    }
+    EnvironmentTest() { world->seed = 11; }
 
     static constexpr const char *kOrbit[] = {"STATUS Orbiting Earth", "RPOS 6571010.00 0.00 0.00",
                                              "RVEL 0.00 0.00 7788.48", "AROT 0.00 0.00 0.00",
@@ -101,6 +88,5 @@ class EnvironmentTest : public ::testing::Test {
         return reinterpret_cast<hullhost::Annotation *>(k.MessageNote)->text;
     }
 
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world;
+    KorvanWorld world;
 };

@@ -2,29 +2,22 @@
 // class file, made and ended through its exports.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "core/world.h"
 #include "frame/hullkit.h"
+#include "root_world.h"
 
 TEST(ModuleLoading, KorvanComesFromItsLibraryAndReadsItsFiles) {
-    auto previous = std::filesystem::current_path();
-    std::filesystem::current_path(HULLKIT_TEST_ROOT);
-    {
-        hullhost::World world(HULLKIT_TEST_ROOT);
-        hullhost::Vessel &v = world.ConstructVessel("Korvan-1", "Fleet\\Korvan");
-        world.LoadVesselState(v, {"STATUS Orbiting Earth", "RPOS 6571010 0 0", "RVEL 0 0 7788.4"});
-        world.PostCreate(v);
+    RootWorld world;
+    hullhost::Vessel &v = world->ConstructVessel("Korvan-1", "Fleet\\Korvan");
+    world->LoadVesselState(v, {"STATUS Orbiting Earth", "RPOS 6571010 0 0", "RVEL 0 0 7788.4"});
+    world->PostCreate(v);
 
-        VESSEL *iface = oapiGetVesselInterface(oapiGetVesselByName("Korvan-1"));
-        ASSERT_NE(iface, nullptr);
-        EXPECT_TRUE(IsHullkit(iface));
-        EXPECT_EQ(world.modules.ForClass("Fleet\\Korvan").Path(),
-                  std::string(HULLKIT_TEST_ROOT) + "/Modules/Fleet/Korvan.dll");
-        world.Frame(0.02);
-        world.Frame(0.02);
-        oapiDeleteVessel(v.Handle());
-        EXPECT_EQ(oapiGetVesselCount(), 0u);
-    }
-    std::filesystem::current_path(previous);
+    VESSEL *iface = oapiGetVesselInterface(oapiGetVesselByName("Korvan-1"));
+    ASSERT_NE(iface, nullptr);
+    EXPECT_TRUE(IsHullkit(iface));
+    EXPECT_EQ(world->modules.ForClass("Fleet\\Korvan").Path(),
+              std::string(HULLKIT_TEST_ROOT) + "/Modules/Fleet/Korvan.dll");
+    world->Frame(0.02);
+    world->Frame(0.02);
+    oapiDeleteVessel(v.Handle());
+    EXPECT_EQ(oapiGetVesselCount(), 0u);
 }

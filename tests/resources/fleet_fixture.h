@@ -11,18 +11,10 @@
 
 #include "core/world.h"
 #include "frame/hullkit.h"
+#include "root_world.h"
 
 class FleetTest : public ::testing::Test {
   protected:
-    FleetTest() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world_ = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-    }
-    ~FleetTest() override {
-        world_.reset();
-        std::filesystem::current_path(previous_);
-    }
-
     // A vessel of `className`, with the given subtype when not empty.
     HULLKIT &Load(const char *name, const char *className, const std::string &subtype = "") {
         hullhost::Vessel &v = world_->ConstructVessel(name, className);
@@ -39,8 +31,7 @@ class FleetTest : public ::testing::Test {
     }
     HULLKIT &LoadKorvan() { return Load("Korvan-1", "Fleet\\Korvan"); }
 
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world_;
+    RootWorld world_;
     hullhost::Vessel *vessel = nullptr;
     HULLKIT *stage = nullptr;
 };

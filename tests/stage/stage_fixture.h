@@ -11,25 +11,11 @@
 #include <vector>
 
 #include "core/line_file.h"
-#include "core/program_module.h"
 #include "core/world.h"
-#include "stage/korvan.h"
+#include "korvan_world.h"
 
 class StageTest : public ::testing::Test {
   protected:
-    StageTest() : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(HULLKIT_TEST_ROOT);
-        world = std::make_unique<hullhost::World>(HULLKIT_TEST_ROOT);
-        hullhost::SetProgramModulePath("Modules\\Fleet\\Korvan.dll");
-        world->modules.RegisterBuiltin(
-            "Fleet\\Korvan", [](OBJHANDLE h, int fm) -> VESSEL * { return new Korvan(h, fm); },
-            [](VESSEL *v) { delete static_cast<Korvan *>(v); });
-    }
-    ~StageTest() override {
-        world.reset();
-        std::filesystem::current_path(previous_);
-    }
-
     // A stage in orbit with the scenario lines `extra`; flown by hand unless
     // `autopilot`.
     Korvan &Load(const std::vector<std::string> &extra = {}, bool autopilot = false,
@@ -83,6 +69,5 @@ class StageTest : public ::testing::Test {
         return g && g->handle ? k.GetThrusterGroupLevel(g->handle) : -1.0;
     }
 
-    std::filesystem::path previous_;
-    std::unique_ptr<hullhost::World> world;
+    KorvanWorld world;
 };
